@@ -1,0 +1,77 @@
+#include "TempTree.hpp"
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+
+namespace fs = std::filesystem;
+
+namespace TestSupport {
+namespace {
+
+fs::path makeTemporaryFolder(const char* prefix) {
+    std::string pattern = (fs::temp_directory_path() / (std::string(prefix) + "XXXXXX")).string();
+    if (!::mkdtemp(pattern.data())) {
+        std::perror("mkdtemp");
+        std::abort();
+    }
+    return pattern;
+}
+
+void makeWritable(const fs::path& root) {
+    std::error_code error;
+    fs::permissions(root, fs::perms::owner_all, fs::perm_options::add, error);
+    for (auto it = fs::recursive_directory_iterator(root, fs::directory_options::skip_permission_denied, error);
+         it != fs::recursive_directory_iterator(); it.increment(error)) {
+        if (it->is_directory(error) && !it->is_symlink(error))
+            fs::permissions(it->path(), fs::perms::owner_all, fs::perm_options::add, error);
+    }
+}
+
+} // namespace
+
+TempTree::TempTree() : base(makeTemporaryFolder("zephrane-test-")) {}
+
+TempTree::~TempTree() {
+    std::error_code error;
+    makeWritable(base); // tests leave chmod 000 folders behind
+    fs::remove_all(base, error);
+}
+
+fs::path TempTree::file(std::string_view relative, std::size_t bytes) const {
+    const fs::path target = base / relative;
+    fs::create_directories(target.parent_path());
+    std::ofstream out(target, std::ios::binary | std::ios::trunc);
+    const std::string content(bytes, 'z');
+    out.write(content.data(), static_cast<std::streamsize>(content.size()));
+    return target;
+}
+
+fs::path TempTree::folder(std::string_view relative) const {
+    const fs::path target = base / relative;
+    fs::create_directories(target);
+    return target;
+}
+
+fs::path TempTree::symlink(std::string_view relative, const fs::path& target) const {
+    const fs::path link = base / relative;
+    fs::create_directories(link.parent_path());
+    fs::create_symlink(target, link);
+    return link;
+}
+
+void isolateHome() {
+    static const fs::path home = makeTemporaryFolder("zephrane-home-");
+    const fs::path temp = fs::temp_directory_path();
+    if (home.string().rfind(temp.string(), 0) != 0) {
+        std::fprintf(stderr, "test home %s is not under %s; refusing to run\n", home.c_str(), temp.c_str());
+        std::abort();
+    }
+    ::setenv("HOME", home.c_str(), 1);
+    ::setenv("XDG_DATA_HOME", (home / ".local/share").c_str(), 1);
+    ::setenv("XDG_CONFIG_HOME", (home / ".config").c_str(), 1);
+    ::setenv("XDG_CACHE_HOME", (home / ".cache").c_str(), 1);
+}
+
+} // namespace TestSupport

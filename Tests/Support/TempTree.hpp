@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace TestSupport {
+
+// A temporary folder that tests build their trees in; removed (links not followed) on destruction.
+class TempTree {
+public:
+    TempTree();
+    ~TempTree();
+    TempTree(const TempTree&) = delete;
+    TempTree& operator=(const TempTree&) = delete;
+
+    const std::filesystem::path& root() const { return base; }
+    std::filesystem::path path(std::string_view relative) const { return base / relative; }
+
+    // Creates parents as needed. `bytes` of content, written in one go.
+    std::filesystem::path file(std::string_view relative, std::size_t bytes = 0) const;
+    std::filesystem::path folder(std::string_view relative) const;
+    std::filesystem::path symlink(std::string_view relative, const std::filesystem::path& target) const;
+
+private:
+    std::filesystem::path base;
+};
+
+// Points HOME (and the XDG folders) at a fresh temporary home for the whole test program, so that
+// nothing can reach the real one; aborts the program if that fails. Call once from main().
+void isolateHome();
+
+} // namespace TestSupport

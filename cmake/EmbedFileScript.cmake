@@ -1,0 +1,5 @@
+file(READ ${IN} hex HEX)
+string(LENGTH "${hex}" len)
+math(EXPR count "${len} / 2")
+string(REGEX REPLACE "([0-9a-f][0-9a-f])" "'\\\\x\\1'," bytes "${hex}")
+file(WRITE ${OUT} "#include <string_view>\nnamespace CleanerCore::Embedded {\nstatic const char data[] = {${bytes} 0};\nextern const std::string_view ${SYMBOL};\nconst std::string_view ${SYMBOL}(data, ${count});\n}\n")
