@@ -13,7 +13,9 @@ SystemCalls* SystemCalls::installed = nullptr;
 int SystemCalls::openat(int dirfd, const char* path, int flags, mode_t mode) {
     return ::openat(dirfd, path, flags, mode);
 }
-int SystemCalls::close(int fd) { return ::close(fd); }
+int SystemCalls::close(int fd) {
+    return ::close(fd);
+}
 long SystemCalls::getdents64(int fd, void* buffer, std::size_t length) {
     return ::syscall(SYS_getdents64, fd, buffer, length);
 }
@@ -23,14 +25,22 @@ int SystemCalls::statx(int dirfd, const char* path, int flags, unsigned mask, st
 int SystemCalls::fstatat(int dirfd, const char* path, struct ::stat* out, int flags) {
     return ::fstatat(dirfd, path, out, flags);
 }
-int SystemCalls::unlinkat(int dirfd, const char* path, int flags) { return ::unlinkat(dirfd, path, flags); }
+int SystemCalls::unlinkat(int dirfd, const char* path, int flags) {
+    return ::unlinkat(dirfd, path, flags);
+}
 int SystemCalls::renameat2(int olddirfd, const char* oldpath, int newdirfd, const char* newpath,
                            unsigned flags) {
     return ::renameat2(olddirfd, oldpath, newdirfd, newpath, flags);
 }
-int SystemCalls::mkdirat(int dirfd, const char* path, mode_t mode) { return ::mkdirat(dirfd, path, mode); }
-ssize_t SystemCalls::write(int fd, const void* data, std::size_t length) { return ::write(fd, data, length); }
-int SystemCalls::fsync(int fd) { return ::fsync(fd); }
+int SystemCalls::mkdirat(int dirfd, const char* path, mode_t mode) {
+    return ::mkdirat(dirfd, path, mode);
+}
+ssize_t SystemCalls::write(int fd, const void* data, std::size_t length) {
+    return ::write(fd, data, length);
+}
+int SystemCalls::fsync(int fd) {
+    return ::fsync(fd);
+}
 
 SystemCalls& SystemCalls::current() {
     static SystemCalls real;
@@ -40,6 +50,8 @@ SystemCalls& SystemCalls::current() {
 ScopedSystemCalls::ScopedSystemCalls(SystemCalls& replacement) : previous(SystemCalls::installed) {
     SystemCalls::installed = &replacement;
 }
-ScopedSystemCalls::~ScopedSystemCalls() { SystemCalls::installed = previous; }
+ScopedSystemCalls::~ScopedSystemCalls() {
+    SystemCalls::installed = previous;
+}
 
 } // namespace CleanerCore::Platform

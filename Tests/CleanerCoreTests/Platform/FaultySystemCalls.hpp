@@ -1,0 +1,57 @@
+#pragma once
+
+#include "CleanerCore/Platform/SystemCalls.hpp"
+
+#include <atomic>
+#include <cerrno>
+#include <functional>
+
+namespace TestSupport {
+
+// Real system calls, except where a test's rule answers with an errno: then the call fails with
+// it. Rules must be safe to call from several threads; counters are atomic.
+class FaultySystemCalls : public CleanerCore::Platform::SystemCalls {
+public:
+    using NameRule = std::function<int(const char* name)>;
+
+    NameRule openFault;                                       // openat(name)
+    NameRule statxFault;                                      // statx(name)
+    std::function<int()> listFault;                           // getdents64
+    std::function<void(void* buffer, long filled)> afterList; // may rewrite what the kernel returned
+
+    std::atomic<int> opens{0}, stats{0}, lists{0}, closes{0};
+
+    int openat(int dirfd, const char* path, int flags, mode_t mode) override {
+        ++opens;
+        if (const int error = openFault ? openFault(path) : 0)
+            return fail(error);
+        return SystemCalls::openat(dirfd, path, flags, mode);
+    }
+    int close(int fd) override {
+        ++closes;
+        return SystemCalls::close(fd);
+    }
+    long getdents64(int fd, void* buffer, std::size_t length) override {
+        ++lists;
+        if (const int error = listFault ? listFault() : 0)
+            return fail(error);
+        const long filled = SystemCalls::getdents64(fd, buffer, length);
+        if (filled > 0 && afterList)
+            afterList(buffer, filled);
+        return filled;
+    }
+    int statx(int dirfd, const char* path, int flags, unsigned mask, struct ::statx* out) override {
+        ++stats;
+        if (const int error = statxFault ? statxFault(path) : 0)
+            return fail(error);
+        return SystemCalls::statx(dirfd, path, flags, mask, out);
+    }
+
+private:
+    static int fail(int error) {
+        errno = error;
+        return -1;
+    }
+};
+
+} // namespace TestSupport
