@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <stdio.h>
+#include <stdlib.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -40,6 +41,15 @@ ssize_t SystemCalls::write(int fd, const void* data, std::size_t length) {
 }
 int SystemCalls::fsync(int fd) {
     return ::fsync(fd);
+}
+int SystemCalls::fstat(int fd, struct ::stat* out) {
+    return ::fstat(fd, out);
+}
+int SystemCalls::fchmod(int fd, mode_t mode) {
+    return ::fchmod(fd, mode);
+}
+char* SystemCalls::realpath(const char* path, char* resolved) {
+    return ::realpath(path, resolved);
 }
 
 SystemCalls& SystemCalls::current() {

@@ -26,6 +26,9 @@ public:
     virtual int mkdirat(int dirfd, const char* path, mode_t mode);
     virtual ssize_t write(int fd, const void* data, std::size_t length);
     virtual int fsync(int fd);
+    virtual int fstat(int fd, struct ::stat* out);
+    virtual int fchmod(int fd, mode_t mode);
+    virtual char* realpath(const char* path, char* resolved);
 
     // The calls in force: the real ones unless a test has installed others.
     static SystemCalls& current();
