@@ -1,0 +1,50 @@
+#pragma once
+
+#include "App/Channel.hpp"
+
+#include <QDateTime>
+#include <QObject>
+#include <QVariantList>
+#include <QtQml/qqmlregistration.h>
+
+// The composition root: owns the model of every channel, created once in a fixed order, none of
+// which starts work when it is made. Models never know each other; views cross channels only
+// through open().
+class AppModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("AppModel is made once, by the program")
+    Q_PROPERTY(int selection READ selectionRaw WRITE openRaw NOTIFY selectionChanged)
+    Q_PROPERTY(QVariantList channels READ channels CONSTANT)
+    Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
+                   smartScanChanged)
+    Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
+                   smartScanChanged)
+
+public:
+    explicit AppModel(QObject* parent = nullptr);
+
+    Channel selection() const { return current; }
+    int selectionRaw() const { return Channels::rawValue(current); }
+    // Changes and notifies only when the channel differs, so observers are not woken needlessly.
+    void open(Channel channel);
+    // For QML and shortcuts: a raw value with no channel is ignored.
+    Q_INVOKABLE void openRaw(int raw);
+
+    // One entry per channel in column order: raw, title, shortLabel, keyEquivalent, accessibilityName.
+    QVariantList channels() const;
+
+    QDateTime smartScanStartedAt() const { return scanStarted; }
+    QDateTime smartScanFinishedAt() const { return scanFinished; }
+    void setSmartScanStartedAt(const QDateTime& value);
+    void setSmartScanFinishedAt(const QDateTime& value);
+
+signals:
+    void selectionChanged();
+    void smartScanChanged();
+
+private:
+    Channel current = Channel::home;
+    QDateTime scanStarted;
+    QDateTime scanFinished;
+};

@@ -1,0 +1,71 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Layouts
+import Zephrane
+
+// One key per channel, lit when it is on show, and the disk meter below when the disk can be read.
+Rectangle {
+    id: root
+
+    required property AppModel appModel
+    required property GoCommands goCommands
+
+    implicitWidth: 252
+    implicitHeight: keys.implicitHeight + 220
+    color: PainelTheme.panel
+
+    Rectangle {
+        anchors.right: parent.right
+        width: 1
+        height: parent.height
+        color: PainelTheme.divider
+    }
+
+    ColumnLayout {
+        id: keys
+        anchors.fill: parent
+        anchors.margins: 14
+        anchors.topMargin: 18
+        spacing: 4
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.bottomMargin: 14
+            Text {
+                Layout.fillWidth: true
+                text: "ZEPHRANE"
+                color: PainelTheme.text
+                font.family: PainelTheme.dotFamily
+                font.pixelSize: 22
+                font.weight: Font.Bold
+                Accessible.ignored: true
+            }
+            GoMenuKey {
+                commands: root.goCommands
+            }
+        }
+
+        Repeater {
+            model: root.appModel.channels
+            delegate: ShellChannelKey {
+                required property var modelData
+                Layout.fillWidth: true
+                info: modelData
+                lit: root.appModel.selection === modelData.raw
+                onActivated: root.appModel.openRaw(modelData.raw)
+            }
+        }
+
+        Item { Layout.fillHeight: true }
+
+        ChannelDiskPoller { id: disk }
+
+        ShellDiskMeter {
+            Layout.fillWidth: true
+            visible: disk.hasReading
+            free: disk.free
+            total: disk.total
+            usedFraction: disk.usedFraction
+        }
+    }
+}

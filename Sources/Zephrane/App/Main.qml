@@ -1,0 +1,38 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Window
+import Zephrane
+
+// The one main window: a panel with no system title bar; its background drags the window.
+Window {
+    id: main
+    objectName: "main"
+
+    required property AppModel appModel
+
+    title: qsTrId("Zephrane")
+    width: 1120
+    height: 740
+    minimumWidth: mainView.implicitMinimumWidth
+    minimumHeight: mainView.implicitMinimumHeight
+    visible: true
+    flags: Qt.Window | Qt.FramelessWindowHint
+    color: PainelTheme.bg
+
+    DragHandler {
+        target: null
+        grabPermissions: PointerHandler.TakeOverForbidden
+        onActiveChanged: if (active) main.startSystemMove()
+    }
+
+    MainView {
+        id: mainView
+        anchors.fill: parent
+        appModel: main.appModel
+        window: main
+    }
+
+    GoShortcuts {
+        commands: mainView.goCommands
+    }
+}

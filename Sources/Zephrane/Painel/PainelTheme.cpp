@@ -1,0 +1,47 @@
+#include "Painel/PainelTheme.hpp"
+
+#include <QDirIterator>
+#include <QFontDatabase>
+#include <QSettings>
+
+PainelTheme::PainelTheme(QObject* parent) : QObject(parent) {
+    chosenAccent =
+        PainelAccents::fromRaw(QSettings().value(QStringLiteral("accent")).toString()).value_or(PainelAccents::standard);
+    rebuild();
+}
+
+void PainelTheme::installFonts() {
+    static const bool installed = [] {
+        QDirIterator fonts(QStringLiteral(":/fonts"), {QStringLiteral("*.woff")});
+        while (fonts.hasNext())
+            QFontDatabase::addApplicationFont(fonts.next());
+        return true;
+    }();
+    (void)installed;
+}
+
+void PainelTheme::setAccentChoice(PainelAccent accent) {
+    if (accent == chosenAccent)
+        return;
+    chosenAccent = accent;
+    rebuild();
+}
+
+void PainelTheme::setIncreasedContrast(bool on) {
+    if (on == contrast)
+        return;
+    contrast = on;
+    rebuild();
+}
+
+void PainelTheme::setReducedMotion(bool on) {
+    if (on == lessMotion)
+        return;
+    lessMotion = on;
+    emit reducedMotionChanged();
+}
+
+void PainelTheme::rebuild() {
+    colors = PainelPalette::make(chosenAccent, contrast);
+    emit paletteChanged();
+}

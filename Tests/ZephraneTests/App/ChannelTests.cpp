@@ -1,0 +1,49 @@
+#include "App/AppLifecycle.hpp"
+#include "App/AppModel.hpp"
+#include "App/Channel.hpp"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+TEST(Channel, TableOfRawValuesKeysAndShortcuts) {
+    const char* names[] = {"home", "junk", "lens", "large", "apps", "leftovers", "trash", "updates"};
+    ASSERT_EQ(Channels::allCases.size(), 8u);
+    for (int raw = 0; raw < 8; ++raw) {
+        const Channel channel = Channels::allCases[static_cast<std::size_t>(raw)];
+        EXPECT_EQ(Channels::rawValue(channel), raw);
+        EXPECT_EQ(Channels::fromRaw(raw), channel);
+        EXPECT_EQ(Channels::keyEquivalent(channel), QString::number(raw));
+        EXPECT_EQ(QString(Channels::shortKey(channel)), QString("channel.%1.short").arg(names[raw]));
+        EXPECT_EQ(QString(Channels::titleKey(channel)), QString("channel.%1.title").arg(names[raw]));
+        EXPECT_TRUE(Channels::accessibilityName(channel).contains(Channels::title(channel)));
+    }
+    EXPECT_EQ(Channels::fromRaw(8), std::nullopt);
+    EXPECT_EQ(Channels::fromRaw(-1), std::nullopt);
+    EXPECT_EQ(Channels::title(Channel::updates), "Updates");
+}
+
+TEST(AppModel, StartsHomeAndNotifiesOnlyWhenTheChannelChanges) {
+    AppModel model;
+    EXPECT_EQ(model.selection(), Channel::home);
+    EXPECT_FALSE(model.smartScanStartedAt().isValid());
+    EXPECT_FALSE(model.smartScanFinishedAt().isValid());
+
+    QSignalSpy spy(&model, &AppModel::selectionChanged);
+    model.open(Channel::home);
+    EXPECT_EQ(spy.count(), 0);
+    model.open(Channel::trash);
+    model.open(Channel::trash);
+    EXPECT_EQ(spy.count(), 1);
+    EXPECT_EQ(model.selection(), Channel::trash);
+    model.openRaw(8); // no such channel
+    EXPECT_EQ(model.selection(), Channel::trash);
+    EXPECT_EQ(spy.count(), 1);
+}
+
+TEST(AppLifecycle, ClosingTheWindowQuitsUnlessAnAgentHoldsTheProcessInATray) {
+    EXPECT_TRUE(AppLifecycle::quitsOnLastWindowClosed(false, true));
+    EXPECT_TRUE(AppLifecycle::quitsOnLastWindowClosed(true, false)) << "never linger invisible";
+    EXPECT_TRUE(AppLifecycle::quitsOnLastWindowClosed(false, false));
+    EXPECT_FALSE(AppLifecycle::quitsOnLastWindowClosed(true, true));
+}

@@ -1,0 +1,72 @@
+#include "App/AppModel.hpp"
+#include "App/GoCommands.hpp"
+#include "App/MainWindow.hpp"
+#include "Support/QmlTestSupport.hpp"
+
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class ShellWindow : public ::testing::Test {
+protected:
+    void SetUp() override {
+        window = MainWindow::load(engine, model);
+        ASSERT_NE(window, nullptr);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+        QmlTestSupport::settle();
+    }
+    void TearDown() override {
+        const QStringList seen = warnings.take();
+        EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    }
+
+    QmlTestSupport::WarningCollector warnings;
+    AppModel model;
+    QQmlApplicationEngine engine;
+    QQuickWindow* window = nullptr;
+};
+
+} // namespace
+
+TEST_F(ShellWindow, EveryChannelLoadsWithoutWarningsAndIsPhotographed) {
+    EXPECT_EQ(window->objectName(), "main");
+    EXPECT_EQ(window->title(), "Zephrane");
+    EXPECT_GE(window->width(), window->minimumWidth());
+    for (Channel channel : Channels::allCases) {
+        model.open(channel);
+        QmlTestSupport::settle();
+        const QStringList seen = warnings.take();
+        EXPECT_TRUE(seen.isEmpty()) << Channels::titleKey(channel) << ": " << seen.join('\n').toStdString();
+        QmlTestSupport::saveScreenshot(*window, QStringLiteral("shell-%1").arg(Channels::rawValue(channel)));
+    }
+}
+
+TEST_F(ShellWindow, ControlDigitsOpenChannelsAndThereIsNoEight) {
+    QTest::keyClick(window, Qt::Key_7, Qt::ControlModifier);
+    EXPECT_EQ(model.selection(), Channel::updates);
+    QTest::keyClick(window, Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(model.selection(), Channel::large);
+    QTest::keyClick(window, Qt::Key_8, Qt::ControlModifier);
+    EXPECT_EQ(model.selection(), Channel::large);
+    QTest::keyClick(window, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(model.selection(), Channel::home);
+}
+
+TEST(GoCommands, ChoosingTheChannelOnShowKeepsItSelected) {
+    AppModel model;
+    GoCommands commands;
+    commands.setModel(&model);
+    model.open(Channel::junk);
+    commands.choose(Channels::rawValue(Channel::junk));
+    EXPECT_EQ(model.selection(), Channel::junk);
+    EXPECT_TRUE(commands.isChecked(1));
+    EXPECT_FALSE(commands.isChecked(0));
+    EXPECT_EQ(commands.shortcut(7), "Ctrl+7");
+    EXPECT_EQ(commands.shortcut(8), "");
+    EXPECT_EQ(commands.itemTitle(2), "Space Lens");
+}

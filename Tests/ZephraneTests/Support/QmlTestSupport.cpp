@@ -1,0 +1,63 @@
+#include "Support/QmlTestSupport.hpp"
+
+#include "App/AppLanguage.hpp"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QImage>
+#include <QMutex>
+#include <QQuickWindow>
+#include <QTest>
+
+namespace QmlTestSupport {
+namespace {
+
+QMutex mutex;
+QStringList collected;
+QtMessageHandler previous = nullptr;
+
+void collect(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    // The offscreen platform says this of every window; it is not the application's fault.
+    const bool platformNoise = message.contains(QLatin1String("does not support propagateSizeHints"));
+    if (!platformNoise && (type == QtWarningMsg || type == QtCriticalMsg || type == QtFatalMsg)) {
+        QMutexLocker lock(&mutex);
+        collected.append(message);
+    }
+    if (previous)
+        previous(type, context, message);
+}
+
+} // namespace
+
+WarningCollector::WarningCollector() {
+    QMutexLocker lock(&mutex);
+    collected.clear();
+    previous = qInstallMessageHandler(collect);
+}
+
+WarningCollector::~WarningCollector() { qInstallMessageHandler(previous); }
+
+QStringList WarningCollector::take() {
+    QMutexLocker lock(&mutex);
+    QStringList out;
+    out.swap(collected);
+    return out;
+}
+
+void settle(int milliseconds) {
+    QCoreApplication::processEvents();
+    QTest::qWait(milliseconds);
+}
+
+QString saveScreenshot(QQuickWindow& window, const QString& name) {
+    QDir().mkpath(QStringLiteral(ZEPHRANE_SCREENSHOT_DIR));
+    const QString path = QStringLiteral(ZEPHRANE_SCREENSHOT_DIR "/%1.png").arg(name);
+    window.grabWindow().save(path);
+    return path;
+}
+
+void useLanguage(const QString& localization) {
+    AppLanguage::install(*QCoreApplication::instance(), localization);
+}
+
+} // namespace QmlTestSupport

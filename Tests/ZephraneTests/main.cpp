@@ -1,0 +1,25 @@
+#include "App/AppLanguage.hpp"
+#include "Painel/PainelTheme.hpp"
+#include "TempTree.hpp"
+
+#include <QApplication>
+#include <QQuickStyle>
+#include <QtQml/qqmlextensionplugin.h>
+
+#include <gtest/gtest.h>
+
+Q_IMPORT_QML_PLUGIN(ZephranePlugin)
+
+int main(int argc, char** argv) {
+    // Settings and every default folder must land in a temporary home, never the real one.
+    TestSupport::isolateHome();
+    qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
+    QApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("ZephraneTests"));
+    QCoreApplication::setApplicationName(QStringLiteral("ZephraneTests"));
+    AppLanguage::install(app, AppLanguage::english);
+    PainelTheme::installFonts();
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
