@@ -82,7 +82,9 @@ icu::Formattable toFormattable(const Argument& argument) {
 
 } // namespace
 
-std::span<const std::string_view> localizations() { return kLocalizations; }
+std::span<const std::string_view> localizations() {
+    return kLocalizations;
+}
 
 std::string bundle(const std::optional<std::string>& locale) {
     if (locale && !locale->empty())

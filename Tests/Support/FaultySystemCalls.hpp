@@ -19,17 +19,29 @@ public:
     std::function<int()> listFault;                           // getdents64
     std::function<void(void* buffer, long filled)> afterList; // may rewrite what the kernel returned
 
-    std::atomic<int> opens{0}, stats{0}, lists{0}, closes{0};
+    std::atomic<int> opens{0}, stats{0}, lists{0}, closes{0}, lstats{0};
+    std::atomic<int> openNow{0}, openPeak{0}; // descriptors opened here and not yet closed
 
     int openat(int dirfd, const char* path, int flags, mode_t mode) override {
         ++opens;
         if (const int error = openFault ? openFault(path) : 0)
             return fail(error);
-        return SystemCalls::openat(dirfd, path, flags, mode);
+        const int fd = SystemCalls::openat(dirfd, path, flags, mode);
+        if (fd >= 0) {
+            const int now = ++openNow;
+            for (int peak = openPeak; now > peak && !openPeak.compare_exchange_weak(peak, now);) {
+            }
+        }
+        return fd;
     }
     int close(int fd) override {
         ++closes;
+        --openNow;
         return SystemCalls::close(fd);
+    }
+    int fstatat(int dirfd, const char* path, struct ::stat* out, int flags) override {
+        ++lstats;
+        return SystemCalls::fstatat(dirfd, path, out, flags);
     }
     long getdents64(int fd, void* buffer, std::size_t length) override {
         ++lists;

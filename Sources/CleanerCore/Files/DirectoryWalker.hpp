@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <stop_token>
+#include <string>
+#include <string_view>
+
+// Allocated bytes of folder trees, from the bulk listing. Files count their allocated blocks once
+// per name (hard links included), links and special files count nothing, names starting with "._"
+// are passed over, and a folder that can't be opened or read counts what was seen of it, without
+// stopping its siblings. Folders' own blocks are not counted.
+namespace CleanerCore::DirectoryWalker {
+
+// Sequential total of everything below the open folder `directoryFd`, which stays open. Descends
+// with an explicit stack, so no depth can exhaust the calling thread's stack, and keeps a bounded
+// number of descriptors open however deep the tree goes.
+std::int64_t allocatedSize(int directoryFd);
+
+// The total of the folder at `path`, 0 when it can't be opened. With `fanOut`, each subfolder is
+// measured in a task of its own down to depth 8; folders under "Library/Containers" always go the
+// sequential route. Cancellation is looked at on entry only: walks already begun run to their end,
+// and the caller ignores the total.
+std::int64_t allocatedSize(const std::string& path, bool fanOut, int depth, std::stop_token stop = {});
+
+// Whether `path`, less one trailing "/", is "…/Library/Containers" or lies below one.
+bool isInContainers(std::string_view path);
+
+// Whether the folder `folderNamed` at `path` is a package: the bundle bit says so at once;
+// otherwise its extension must be a package type (answers kept in one process-wide, locked
+// table) and the folder itself is asked last.
+bool isPackage(std::string_view folderNamed, bool hasBundleBit, const std::string& path);
+
+} // namespace CleanerCore::DirectoryWalker
