@@ -200,7 +200,7 @@ bool isPackageExtension(std::string_view extension) {
 
 } // namespace
 
-bool isPackage(std::string_view folderNamed, bool hasBundleBit, const std::string& path) {
+bool isPackage(std::string_view folderNamed, bool hasBundleBit, const URL& at) {
     if (hasBundleBit)
         return true;
     const std::size_t dot = folderNamed.rfind('.');
@@ -209,8 +209,8 @@ bool isPackage(std::string_view folderNamed, bool hasBundleBit, const std::strin
     if (!isPackageExtension(folderNamed.substr(dot + 1)))
         return false;
     struct stat info {};
-    return Platform::SystemCalls::current().fstatat(AT_FDCWD, path.c_str(), &info, AT_SYMLINK_NOFOLLOW) ==
-               0 &&
+    return Platform::SystemCalls::current().fstatat(AT_FDCWD, at.path().c_str(), &info,
+                                                    AT_SYMLINK_NOFOLLOW) == 0 &&
            S_ISDIR(info.st_mode);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CleanerCore/Files/URL.hpp"
+
 #include <cstdint>
 #include <stop_token>
 #include <string>
@@ -25,9 +27,9 @@ std::int64_t allocatedSize(const std::string& path, bool fanOut, int depth, std:
 // Whether `path`, less one trailing "/", is "…/Library/Containers" or lies below one.
 bool isInContainers(std::string_view path);
 
-// Whether the folder `folderNamed` at `path` is a package: the bundle bit says so at once;
+// Whether the folder `folderNamed` at `at` is a package: the bundle bit says so at once;
 // otherwise its extension must be a package type (answers kept in one process-wide, locked
 // table) and the folder itself is asked last.
-bool isPackage(std::string_view folderNamed, bool hasBundleBit, const std::string& path);
+bool isPackage(std::string_view folderNamed, bool hasBundleBit, const URL& at);
 
 } // namespace CleanerCore::DirectoryWalker

@@ -36,43 +36,43 @@ std::int64_t measure(const std::string& path, Measure how, std::stop_token stop)
 
 } // namespace
 
-std::int64_t allocatedSize(const std::string& path) {
-    return measure(path, Measure::sequential, {});
+std::int64_t allocatedSize(const URL& url) {
+    return measure(url.path(), Measure::sequential, {});
 }
 
-std::int64_t parallelAllocatedSize(const std::string& path, std::stop_token stop) {
-    return measure(path, Measure::parallel, std::move(stop));
+std::int64_t parallelAllocatedSize(const URL& url, std::stop_token stop) {
+    return measure(url.path(), Measure::parallel, std::move(stop));
 }
 
-std::unordered_map<std::string, std::int64_t> sizes(const std::vector<std::string>& paths,
-                                                    std::stop_token stop) {
-    std::unordered_map<std::string, std::int64_t> result;
-    std::vector<std::pair<const std::string*, std::int64_t*>> contained, others;
-    for (const std::string& path : paths) {
-        const auto [slot, fresh] = result.try_emplace(path, 0);
+std::unordered_map<URL, std::int64_t> sizes(const std::vector<URL>& urls, std::stop_token stop) {
+    std::unordered_map<URL, std::int64_t> result;
+    std::vector<std::pair<const URL*, std::int64_t*>> contained, others;
+    for (const URL& url : urls) {
+        const auto [slot, fresh] = result.try_emplace(url, 0);
         if (fresh)
-            (DirectoryWalker::isInContainers(path) ? contained : others)
+            (DirectoryWalker::isInContainers(url.path()) ? contained : others)
                 .emplace_back(&slot->first, &slot->second);
     }
     // Each task writes only its own slot; the map is not resized while they run.
     tbb::task_group group;
-    for (const auto& [path, size] : others)
-        group.run([path, size, stop] { *size = parallelAllocatedSize(*path, stop); });
+    for (const auto& [url, size] : others)
+        group.run([url, size, stop] { *size = parallelAllocatedSize(*url, stop); });
     if (!contained.empty())
         group.run([&contained] {
-            for (const auto& [path, size] : contained)
-                *size = allocatedSize(*path);
+            for (const auto& [url, size] : contained)
+                *size = allocatedSize(*url);
         });
     group.wait();
     return result;
 }
 
-std::int64_t referenceAllocatedSize(const std::string& path) {
+std::int64_t referenceAllocatedSize(const URL& url) {
     namespace fs = std::filesystem;
     const auto allocated = [](const fs::path& file) -> std::int64_t {
         struct stat info {};
         return ::lstat(file.c_str(), &info) == 0 && S_ISREG(info.st_mode) ? blocksInBytes(info) : 0;
     };
+    const std::string path = url.path();
     std::error_code error;
     const fs::file_status top = fs::symlink_status(path, error);
     if (error || !fs::is_directory(top))

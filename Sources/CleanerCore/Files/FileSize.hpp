@@ -1,8 +1,9 @@
 #pragma once
 
+#include "CleanerCore/Files/URL.hpp"
+
 #include <cstdint>
 #include <stop_token>
-#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -12,18 +13,17 @@
 namespace CleanerCore::FileSize {
 
 // Sequential.
-std::int64_t allocatedSize(const std::string& path);
+std::int64_t allocatedSize(const URL& url);
 
 // The same answer, with the folder's subtrees measured side by side.
-std::int64_t parallelAllocatedSize(const std::string& path, std::stop_token stop = {});
+std::int64_t parallelAllocatedSize(const URL& url, std::stop_token stop = {});
 
-// One entry for each distinct path. Paths under "Library/Containers" are measured one after another
-// in a single task; every other path gets a task of its own.
-std::unordered_map<std::string, std::int64_t> sizes(const std::vector<std::string>& paths,
-                                                    std::stop_token stop = {});
+// One entry for each distinct URL. Those under "Library/Containers" are measured one after another
+// in a single task; every other one gets a task of its own.
+std::unordered_map<URL, std::int64_t> sizes(const std::vector<URL>& urls, std::stop_token stop = {});
 
 // A plain walk through std::filesystem, kept only to hold the fast routes to account. Unlike them
 // it counts names starting with "._".
-std::int64_t referenceAllocatedSize(const std::string& path);
+std::int64_t referenceAllocatedSize(const URL& url);
 
 } // namespace CleanerCore::FileSize

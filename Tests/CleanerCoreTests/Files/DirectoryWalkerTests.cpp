@@ -24,6 +24,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
+URL url(const fs::path& path) {
+    return URL::file(path.string());
+}
+
 std::int64_t blocksOf(const fs::path& path) {
     struct stat info {};
     EXPECT_EQ(::lstat(path.c_str(), &info), 0) << path;
@@ -98,7 +102,7 @@ TEST(DirectoryWalker, WalksThousandsOfLevelsOnASmallStackWithFewDescriptors) {
     });
     EXPECT_EQ(sequential, chain.total());
     EXPECT_LT(calls.openPeak, 100) << "deep levels give their descriptors back";
-    onSmallStack([&] { parallel = FileSize::parallelAllocatedSize(tree.root()); });
+    onSmallStack([&] { parallel = FileSize::parallelAllocatedSize(url(tree.root())); });
     EXPECT_EQ(parallel, chain.total());
     EXPECT_EQ(calls.openNow, 0);
 }
@@ -183,7 +187,7 @@ TEST(DirectoryWalker, CancellationStopsTheFanOutButNotTheWalksBegun) {
     for (int i = 0; i < 6; ++i)
         for (int j = 0; j < 4; ++j)
             tree.file("t/" + std::to_string(i) + "/" + std::to_string(j) + "/f", 10);
-    const std::int64_t whole = FileSize::referenceAllocatedSize(tree.path("t"));
+    const std::int64_t whole = FileSize::referenceAllocatedSize(url(tree.path("t")));
 
     std::stop_source cancelled;
     cancelled.request_stop();
@@ -213,7 +217,7 @@ TEST(DirectoryWalker, PackagesAreKnownByExtensionThenAskedOfTheFolder) {
     tree.file("fake.app", 1);
     tree.folder("plain");
     const auto isPackage = [&](const std::string& name, bool bundleBit = false) {
-        return DirectoryWalker::isPackage(name, bundleBit, tree.path(name).string());
+        return DirectoryWalker::isPackage(name, bundleBit, url(tree.path(name)));
     };
     EXPECT_TRUE(isPackage("Tool.app"));
     EXPECT_TRUE(isPackage("Shout.APP"));
@@ -234,7 +238,7 @@ TEST(DirectoryWalker, PackagesAreKnownByExtensionThenAskedOfTheFolder) {
             for (int i = 0; i < 500; ++i) {
                 const std::string name =
                     "f" + std::to_string((i * 7 + t) % 50) + (i % 2 ? ".bundle" : ".dat");
-                if (DirectoryWalker::isPackage(name, false, "/nonexistent/" + name) != false)
+                if (DirectoryWalker::isPackage(name, false, URL::file("/nonexistent/" + name)) != false)
                     ++wrong;
             }
         });

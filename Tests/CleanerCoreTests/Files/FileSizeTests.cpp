@@ -21,6 +21,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
+URL url(const fs::path& path) {
+    return URL::file(path.string());
+}
+
 std::int64_t blocksOf(const fs::path& path) {
     struct stat info {};
     EXPECT_EQ(::lstat(path.c_str(), &info), 0) << path;
@@ -97,18 +101,18 @@ TEST(FileSize, FastRoutesAgreeWithTheReferenceOnRandomTrees) {
         SCOPED_TRACE(seed);
         TempTree tree;
         const std::vector<fs::path> folders = randomTree(tree, seed);
-        const std::int64_t expected = FileSize::referenceAllocatedSize(tree.root());
+        const std::int64_t expected = FileSize::referenceAllocatedSize(url(tree.root()));
         EXPECT_GT(expected, 0);
-        EXPECT_EQ(FileSize::allocatedSize(tree.root()), expected);
-        EXPECT_EQ(FileSize::parallelAllocatedSize(tree.root()), expected);
+        EXPECT_EQ(FileSize::allocatedSize(url(tree.root())), expected);
+        EXPECT_EQ(FileSize::parallelAllocatedSize(url(tree.root())), expected);
 
-        std::vector<std::string> paths;
+        std::vector<URL> urls;
         for (std::size_t i = 0; i < folders.size(); i += 3)
-            paths.push_back(folders[i].string());
-        const auto measured = FileSize::sizes(paths);
-        ASSERT_EQ(measured.size(), paths.size());
-        for (const std::string& path : paths)
-            EXPECT_EQ(measured.at(path), FileSize::referenceAllocatedSize(path)) << path;
+            urls.push_back(url(folders[i]));
+        const auto measured = FileSize::sizes(urls);
+        ASSERT_EQ(measured.size(), urls.size());
+        for (const URL& each : urls)
+            EXPECT_EQ(measured.at(each), FileSize::referenceAllocatedSize(each)) << each.path();
 
         // One folder that can't be opened: only its own tree goes missing.
         ASSERT_GT(folders.size(), 1u);
@@ -116,9 +120,9 @@ TEST(FileSize, FastRoutesAgreeWithTheReferenceOnRandomTrees) {
         FaultySystemCalls calls;
         refuseFolder(calls, refused);
         ScopedSystemCalls scope(calls);
-        const std::int64_t withoutRefused = expected - FileSize::referenceAllocatedSize(refused);
-        EXPECT_EQ(FileSize::allocatedSize(tree.root()), withoutRefused) << refused;
-        EXPECT_EQ(FileSize::parallelAllocatedSize(tree.root()), withoutRefused) << refused;
+        const std::int64_t withoutRefused = expected - FileSize::referenceAllocatedSize(url(refused));
+        EXPECT_EQ(FileSize::allocatedSize(url(tree.root())), withoutRefused) << refused;
+        EXPECT_EQ(FileSize::parallelAllocatedSize(url(tree.root())), withoutRefused) << refused;
         EXPECT_EQ(calls.openNow, 0) << "every descriptor closed";
     }
 }
@@ -126,27 +130,28 @@ TEST(FileSize, FastRoutesAgreeWithTheReferenceOnRandomTrees) {
 TEST(FileSize, MeasuresAllocatedBlocksOfWhatAPathIs) {
     TempTree tree;
     const fs::path small = tree.file("box/small", 10);
-    EXPECT_EQ(FileSize::allocatedSize(tree.path("box")), blocksOf(small));
+    EXPECT_EQ(FileSize::allocatedSize(url(tree.path("box"))), blocksOf(small));
     EXPECT_GT(blocksOf(small), 10) << "a whole block, not ten bytes";
 
     const fs::path hole = tree.path("hole");
     sparseFile(hole, 64 << 20);
-    EXPECT_LT(FileSize::allocatedSize(hole), 1 << 20) << "a sparse file counts what it occupies";
+    EXPECT_LT(FileSize::allocatedSize(url(hole)), 1 << 20) << "a sparse file counts what it occupies";
 
     tree.file("big/data", 1 << 20);
     const fs::path link = tree.symlink("box/link", tree.path("big"));
     const fs::path topLink = tree.symlink("topLink", tree.path("big"));
-    EXPECT_EQ(FileSize::allocatedSize(link), 0);
-    EXPECT_EQ(FileSize::parallelAllocatedSize(topLink), 0);
-    EXPECT_EQ(FileSize::allocatedSize(tree.path("box")), blocksOf(small)) << "links inside count nothing";
+    EXPECT_EQ(FileSize::allocatedSize(url(link)), 0);
+    EXPECT_EQ(FileSize::parallelAllocatedSize(url(topLink)), 0);
+    EXPECT_EQ(FileSize::allocatedSize(url(tree.path("box"))), blocksOf(small))
+        << "links inside count nothing";
 
     ASSERT_EQ(::link(small.c_str(), tree.path("box/again").c_str()), 0);
-    EXPECT_EQ(FileSize::allocatedSize(tree.path("box")), 2 * blocksOf(small)) << "each name counts";
+    EXPECT_EQ(FileSize::allocatedSize(url(tree.path("box"))), 2 * blocksOf(small)) << "each name counts";
 
     ASSERT_EQ(::mkfifo(tree.path("pipe").c_str(), 0600), 0);
-    EXPECT_EQ(FileSize::allocatedSize(tree.path("pipe")), 0);
-    EXPECT_EQ(FileSize::allocatedSize(tree.path("missing")), 0);
-    EXPECT_EQ(FileSize::parallelAllocatedSize(tree.path("missing")), 0);
+    EXPECT_EQ(FileSize::allocatedSize(url(tree.path("pipe"))), 0);
+    EXPECT_EQ(FileSize::allocatedSize(url(tree.path("missing"))), 0);
+    EXPECT_EQ(FileSize::parallelAllocatedSize(url(tree.path("missing"))), 0);
 }
 
 TEST(FileSize, AppleDoubleCompanionsCountOnlyWhenMeasuredThemselves) {
@@ -154,10 +159,10 @@ TEST(FileSize, AppleDoubleCompanionsCountOnlyWhenMeasuredThemselves) {
     const fs::path companion = tree.file("box/._photo", 5000);
     tree.file("box/._folder/inside", 5000);
     const fs::path photo = tree.file("box/photo", 10);
-    EXPECT_EQ(FileSize::allocatedSize(tree.path("box")), blocksOf(photo));
-    EXPECT_EQ(FileSize::parallelAllocatedSize(tree.path("box")), blocksOf(photo));
-    EXPECT_EQ(FileSize::allocatedSize(companion), blocksOf(companion));
-    EXPECT_GT(FileSize::referenceAllocatedSize(tree.path("box")), blocksOf(photo));
+    EXPECT_EQ(FileSize::allocatedSize(url(tree.path("box"))), blocksOf(photo));
+    EXPECT_EQ(FileSize::parallelAllocatedSize(url(tree.path("box"))), blocksOf(photo));
+    EXPECT_EQ(FileSize::allocatedSize(url(companion)), blocksOf(companion));
+    EXPECT_GT(FileSize::referenceAllocatedSize(url(tree.path("box"))), blocksOf(photo));
 }
 
 TEST(FileSize, SizesHasOneEntryForEachDistinctPath) {
@@ -165,12 +170,13 @@ TEST(FileSize, SizesHasOneEntryForEachDistinctPath) {
     TempTree tree;
     const fs::path file = tree.file("a/f", 9000);
     const fs::path contained = tree.file("home/Library/Containers/app/data", 20'000);
-    const std::string a = tree.path("a").string();
-    const std::string containers = tree.path("home/Library/Containers").string();
-    const auto measured = FileSize::sizes({a, a, containers, file.string(), tree.path("nothing").string()});
+    const URL a = url(tree.path("a"));
+    const URL containers = url(tree.path("home/Library/Containers"));
+    const auto measured =
+        FileSize::sizes({a, url(tree.path("a/")), containers, url(file), url(tree.path("nothing"))});
     EXPECT_EQ(measured.size(), 4u);
     EXPECT_EQ(measured.at(a), blocksOf(file));
-    EXPECT_EQ(measured.at(file.string()), blocksOf(file));
+    EXPECT_EQ(measured.at(url(file)), blocksOf(file));
     EXPECT_EQ(measured.at(containers), blocksOf(contained));
-    EXPECT_EQ(measured.at(tree.path("nothing").string()), 0);
+    EXPECT_EQ(measured.at(url(tree.path("nothing"))), 0);
 }
