@@ -42,8 +42,8 @@ int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
         try {
             return verb.run(rest, out, err);
         } catch (const UsageError& error) {
-            err << "zephrane-cli " << verb.name << ": " << error.what() << " (usage: zephrane-cli " << verb.usage
-                << ")\n";
+            err << "zephrane-cli " << verb.name << ": " << error.what() << " (usage: zephrane-cli "
+                << verb.usage << ")\n";
             return 2;
         } catch (const std::exception& error) {
             err << "zephrane-cli " << verb.name << ": " << error.what() << "\n";

@@ -2,9 +2,14 @@
 
 namespace ZephraneCli {
 
+int runSize(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
+
 // Each verb lives in a file of its own (<Name>Verb.cpp) and is listed here once.
 const std::vector<Verb>& verbs() {
-    static const std::vector<Verb> all{};
+    static const std::vector<Verb> all{
+        {"size", "size PATH... [--json]", "allocated bytes on disk of each path, folders with all they hold",
+         runSize},
+    };
     return all;
 }
 
