@@ -19,11 +19,20 @@ public:
     std::function<int()> listFault;                           // getdents64
     std::function<void(void* buffer, long filled)> afterList; // may rewrite what the kernel returned
 
+    NameRule unlinkFault;                             // unlinkat(name)
+    NameRule renameFault;                             // renameat2(old name)
+    NameRule mkdirFault;                              // mkdirat(name)
+    std::function<int()> writeFault;                  // write
+    std::function<void(const char* name)> beforeOpen; // runs before openat: races
+    std::function<void(const char* from, const char* to)> beforeRename;
+
     std::atomic<int> opens{0}, stats{0}, lists{0}, closes{0}, lstats{0};
     std::atomic<int> openNow{0}, openPeak{0}; // descriptors opened here and not yet closed
 
     int openat(int dirfd, const char* path, int flags, mode_t mode) override {
         ++opens;
+        if (beforeOpen)
+            beforeOpen(path);
         if (const int error = openFault ? openFault(path) : 0)
             return fail(error);
         const int fd = SystemCalls::openat(dirfd, path, flags, mode);
@@ -57,6 +66,30 @@ public:
         if (const int error = statxFault ? statxFault(path) : 0)
             return fail(error);
         return SystemCalls::statx(dirfd, path, flags, mask, out);
+    }
+
+    int unlinkat(int dirfd, const char* path, int flags) override {
+        if (const int error = unlinkFault ? unlinkFault(path) : 0)
+            return fail(error);
+        return SystemCalls::unlinkat(dirfd, path, flags);
+    }
+    int renameat2(int olddirfd, const char* oldpath, int newdirfd, const char* newpath,
+                  unsigned flags) override {
+        if (beforeRename)
+            beforeRename(oldpath, newpath);
+        if (const int error = renameFault ? renameFault(oldpath) : 0)
+            return fail(error);
+        return SystemCalls::renameat2(olddirfd, oldpath, newdirfd, newpath, flags);
+    }
+    int mkdirat(int dirfd, const char* path, mode_t mode) override {
+        if (const int error = mkdirFault ? mkdirFault(path) : 0)
+            return fail(error);
+        return SystemCalls::mkdirat(dirfd, path, mode);
+    }
+    ssize_t write(int fd, const void* data, std::size_t length) override {
+        if (const int error = writeFault ? writeFault() : 0)
+            return fail(error);
+        return SystemCalls::write(fd, data, length);
     }
 
 private:

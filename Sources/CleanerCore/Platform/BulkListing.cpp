@@ -120,6 +120,8 @@ bool list(int directoryFd, void* context, Visit visit, ListingOptions options) {
             bool needsStat = true;
             switch (field<std::uint8_t>(record, typeAt)) {
             case DT_REG:
+                entry.kind = EntryKind::file;
+                needsStat = options.statFiles;
                 break;
             case DT_DIR:
                 entry.kind = EntryKind::directory;

@@ -30,6 +30,8 @@ struct ListingOptions {
     // only sums file sizes turns this off and gets folders from the directory entry's type alone
     // (device 0, size 0, not a mount root, inode from the entry).
     bool statFolders = true;
+    // Likewise for regular files: without it they come from the entry's type alone (size 0).
+    bool statFiles = true;
 };
 
 namespace BulkListingDetail {

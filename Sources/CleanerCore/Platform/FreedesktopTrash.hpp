@@ -1,0 +1,55 @@
+#pragma once
+
+#include "CleanerCore/Platform/FileDescriptor.hpp"
+#include "CleanerCore/Platform/MountTable.hpp"
+
+#include <chrono>
+#include <map>
+#include <optional>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace CleanerCore::Platform {
+
+// Moves items into the freedesktop.org trash of their own volume: the home trash for the volume of
+// the data home, otherwise $topdir/.Trash/$uid (when .Trash is a sticky folder, not a link) or
+// $topdir/.Trash-$uid. Nothing is ever copied across volumes. The info file is written and flushed
+// before the item moves, so a crash never leaves an item in files/ that has no info.
+// One object serves a run of items and keeps the trash folders it has opened.
+class FreedesktopTrash {
+public:
+    explicit FreedesktopTrash(std::string dataHome, std::vector<MountPoint> mounts = MountTable::current());
+
+    // $XDG_DATA_HOME when it is set to an absolute path, else home + "/.local/share".
+    static std::string dataHomeFor(const std::string& home);
+
+    // Moves the item at the absolute `path` into the trash. 0, or an errno: ENOENT when nothing is
+    // there, EXDEV when its volume has no trash that can be used, EBUSY for a mount point.
+    int trash(const std::string& path);
+
+    // The text of an info file.
+    static std::string infoText(const std::string& originalPath, std::chrono::system_clock::time_point when);
+
+private:
+    struct Bin {
+        FileDescriptor files, info;
+        std::string topDirectory; // empty for the home trash, whose info holds absolute paths
+        int error = 0;            // why this volume's trash can't be used
+    };
+
+    Bin& homeBin();
+    Bin& volumeBin(dev_t device, const std::string& path);
+    int openParent(const std::string& parent);
+    int move(Bin& bin, int parentFd, const std::string& path, const std::string& name);
+
+    std::string dataHome;
+    std::vector<MountPoint> mounts;
+    std::optional<Bin> home;
+    std::optional<dev_t> homeDevice;
+    std::map<dev_t, Bin> volumes;
+    std::string cachedParentPath;
+    FileDescriptor cachedParent;
+};
+
+} // namespace CleanerCore::Platform

@@ -1,0 +1,344 @@
+#include "CleanerCore/Display/CoreL10n.hpp"
+#include "CleanerCore/Removal/Cleaner.hpp"
+
+#include "FaultySystemCalls.hpp"
+#include "TempTree.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <unistd.h>
+
+using namespace CleanerCore;
+namespace fs = std::filesystem;
+
+namespace {
+
+// Each test gets its own home inside a temporary tree; the trash lands in that home too.
+class CleanerTest : public testing::Test {
+protected:
+    void SetUp() override {
+        CoreL10n::setCurrentLanguage("en");
+        home = tree.folder("home");
+        dataHome = home / ".local/share";
+        previousDataHome = std::getenv("XDG_DATA_HOME");
+        ::setenv("XDG_DATA_HOME", dataHome.c_str(), 1);
+    }
+    void TearDown() override {
+        if (previousDataHome)
+            ::setenv("XDG_DATA_HOME", previousDataHome->c_str(), 1);
+    }
+
+    RemovalReport remove(RemovalMode mode, const std::vector<fs::path>& paths, std::int64_t size = 10) const {
+        std::vector<CleanupItem> items;
+        for (const fs::path& path : paths)
+            items.push_back({URL::file(path.string()), size, std::nullopt, true});
+        return Cleaner(mode, URL::file(home.string()), std::nullopt).remove(items);
+    }
+
+    fs::path trashFiles() const { return dataHome / "Trash/files"; }
+    fs::path trashInfo() const { return dataHome / "Trash/info"; }
+
+    TestSupport::TempTree tree;
+    fs::path home, dataHome;
+    std::optional<std::string> previousDataHome;
+};
+
+bool present(const fs::path& path) {
+    std::error_code error;
+    return fs::symlink_status(path, error).type() != fs::file_type::not_found;
+}
+
+std::size_t countEntries(const fs::path& root) {
+    std::size_t count = 0;
+    for (auto it = fs::recursive_directory_iterator(root); it != fs::recursive_directory_iterator(); ++it)
+        ++count;
+    return count;
+}
+
+std::string readText(const fs::path& path) {
+    std::ifstream in(path);
+    std::stringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+std::string text(std::string_view key) {
+    return CoreL10n::string(key, "en");
+}
+
+} // namespace
+
+TEST_F(CleanerTest, AnEmptyListGivesAnEmptyReportInTheCleanersMode) {
+    for (RemovalMode mode : allRemovalModes)
+        EXPECT_EQ(remove(mode, {}), RemovalReport{.mode = mode});
+}
+
+TEST_F(CleanerTest, ReportsEveryItemOnceInOrderAndCountsOnlyBytesActuallyFreed) {
+    for (RemovalMode mode : allRemovalModes) {
+        const fs::path a = tree.file("home/Downloads/a.zip", 5);
+        const fs::path folder = tree.folder("home/Downloads/folder");
+        tree.file("home/Downloads/folder/inner/b.txt", 3);
+        const fs::path gone = home / "Downloads/never-there";
+        const fs::path refused = home / "Downloads";
+        const RemovalReport report = remove(mode, {a, refused, gone, folder});
+        EXPECT_EQ(report.mode, mode);
+        EXPECT_EQ(report.removed, (std::vector<URL>{URL::file(a.string()), URL::file(gone.string()),
+                                                    URL::file(folder.string())}));
+        ASSERT_EQ(report.failures.size(), 1u);
+        EXPECT_EQ(report.failures[0].url, URL::file(refused.string()));
+        EXPECT_EQ(report.failures[0].reason, "“" + refused.string() + "” is protected and was not removed.");
+        EXPECT_EQ(report.bytes, 20) << "the item already gone frees nothing";
+        EXPECT_FALSE(present(a));
+        EXPECT_FALSE(present(folder));
+        EXPECT_TRUE(present(refused));
+        fs::remove_all(dataHome / "Trash");
+    }
+}
+
+TEST_F(CleanerTest, RemovingALinkRemovesTheLinkAndNothingItPointsTo) {
+    for (RemovalMode mode : allRemovalModes) {
+        const fs::path precious = tree.file("outside/precious.txt", 4);
+        const fs::path link = tree.symlink("home/x", tree.path("outside"));
+        const RemovalReport report = remove(mode, {link});
+        EXPECT_EQ(report.removed.size(), 1u);
+        EXPECT_FALSE(present(link));
+        EXPECT_TRUE(present(precious));
+        fs::remove_all(dataHome / "Trash");
+    }
+}
+
+TEST_F(CleanerTest, ALinkedParentIsJudgedWhereItLeads) {
+    const fs::path caches = tree.folder("home/Library/Caches");
+    tree.file("home/Library/Caches/app/cache.db", 1);
+    tree.symlink("home/lib", home / "Library");
+    for (RemovalMode mode : allRemovalModes) {
+        const RemovalReport report = remove(mode, {home / "lib/Caches", home / "lib/Caches/app"});
+        ASSERT_EQ(report.failures.size(), 1u);
+        EXPECT_EQ(report.failures[0].url, URL::file((home / "lib/Caches").string()));
+        EXPECT_EQ(report.removed, std::vector<URL>{URL::file((home / "lib/Caches/app").string())});
+        EXPECT_TRUE(present(caches));
+        tree.file("home/Library/Caches/app/cache.db", 1);
+    }
+}
+
+// A folder swapped for a link while the removal runs: only the link goes, never what it leads to.
+TEST_F(CleanerTest, AFolderSwappedForALinkDuringPermanentRemovalDoesNotRedirectIt) {
+    const fs::path precious = tree.file("outside/keep/precious.txt", 4);
+    const fs::path victim = tree.folder("home/junk/a/b/victim");
+    tree.file("home/junk/a/b/victim/x.tmp", 1);
+    tree.file("home/junk/a/b/other.tmp", 1);
+    TestSupport::FaultySystemCalls calls;
+    bool swapped = false;
+    calls.beforeOpen = [&](const char* name) {
+        if (!swapped && std::string_view(name) == "victim") {
+            swapped = true;
+            fs::rename(victim, tree.path("moved-away"));
+            fs::create_symlink(tree.path("outside/keep"), victim);
+        }
+    };
+    {
+        Platform::ScopedSystemCalls installed(calls);
+        const RemovalReport report = remove(RemovalMode::permanent, {home / "junk"});
+        EXPECT_EQ(report.removed.size(), 1u) << (report.failures.empty() ? "" : report.failures[0].reason);
+    }
+    EXPECT_TRUE(swapped);
+    EXPECT_FALSE(present(home / "junk"));
+    EXPECT_TRUE(present(precious));
+    EXPECT_TRUE(present(tree.path("moved-away/x.tmp")));
+}
+
+// The parent that the guard resolved is swapped for a link before the removal opens it.
+TEST_F(CleanerTest, AParentSwappedForALinkAfterTheCheckFailsInsteadOfFollowing) {
+    const fs::path precious = tree.file("outside/data/item", 4);
+    const fs::path parent = tree.folder("home/Downloads/data");
+    tree.file("home/Downloads/data/item", 1);
+    for (RemovalMode mode : allRemovalModes) {
+        TestSupport::FaultySystemCalls calls;
+        bool swapped = false;
+        calls.beforeOpen = [&](const char* name) {
+            if (!swapped && std::string_view(name) == "Downloads") {
+                swapped = true;
+                fs::rename(parent, tree.path("home/Downloads/data-real"));
+                fs::create_symlink(tree.path("outside/data"), parent);
+            }
+        };
+        Platform::ScopedSystemCalls installed(calls);
+        const RemovalReport report = remove(mode, {parent / "item"});
+        ASSERT_EQ(report.failures.size(), 1u);
+        EXPECT_EQ(report.failures[0].reason, text("core.removal.failure.changed"));
+        EXPECT_TRUE(present(precious));
+        fs::remove(parent);
+        fs::rename(tree.path("home/Downloads/data-real"), parent);
+    }
+}
+
+TEST_F(CleanerTest, DeepTreesGoWithoutExhaustingTheStackOrDescriptors) {
+    // Far deeper than the descriptors the removal keeps open at once; built through descriptors.
+    const fs::path top = tree.folder("home/deep");
+    int fd = ::open(top.c_str(), O_RDONLY | O_DIRECTORY);
+    for (int level = 0; level < 600; ++level) {
+        ASSERT_EQ(::mkdirat(fd, "d", 0700), 0);
+        ::close(::openat(fd, "f", O_CREAT | O_WRONLY, 0600));
+        const int next = ::openat(fd, "d", O_RDONLY | O_DIRECTORY);
+        ::close(fd);
+        fd = next;
+    }
+    ::close(fd);
+    TestSupport::FaultySystemCalls calls;
+    RemovalReport report;
+    {
+        Platform::ScopedSystemCalls installed(calls);
+        report = remove(RemovalMode::permanent, {top});
+    }
+    EXPECT_TRUE(report.failures.empty()) << report.failures[0].reason;
+    EXPECT_LT(calls.openPeak, 80) << "descriptors stay bounded however deep the tree";
+    EXPECT_FALSE(present(top));
+}
+
+TEST_F(CleanerTest, TrashKeepsAnInfoFileWithTheEncodedPathAndDate) {
+    const fs::path item = tree.file("home/Downloads/r\u00e9sum\u00e9 final%.pdf", 7);
+    tree.file("home/Downloads/other/r\u00e9sum\u00e9 final%.pdf", 7);
+    const RemovalReport first = remove(RemovalMode::trash, {item});
+    const RemovalReport second =
+        remove(RemovalMode::trash, {home / "Downloads/other/r\u00e9sum\u00e9 final%.pdf"});
+    EXPECT_EQ(first.removed.size() + second.removed.size(), 2u);
+    EXPECT_TRUE(present(trashFiles() / "r\u00e9sum\u00e9 final%.pdf"));
+    EXPECT_TRUE(present(trashFiles() / "r\u00e9sum\u00e9 final% 2.pdf")) << "a taken name gets a number";
+    const std::string info = readText(trashInfo() / "r\u00e9sum\u00e9 final%.pdf.trashinfo");
+    const std::string encodedFolder = fs::canonical(home / "Downloads").string();
+    EXPECT_EQ(info.substr(0, info.find("DeletionDate=")),
+              "[Trash Info]\nPath=" + encodedFolder + "/r%C3%A9sum%C3%A9%20final%25.pdf\n");
+    EXPECT_TRUE(info.find("DeletionDate=20") != std::string::npos);
+    EXPECT_EQ(info.size() - info.find("DeletionDate=") - 13, 20u) << "YYYY-MM-DDThh:mm:ss and a newline";
+}
+
+TEST_F(CleanerTest, TheInfoFileExistsBeforeTheItemEntersTheTrash) {
+    const fs::path item = tree.file("home/Downloads/a.txt", 1);
+    TestSupport::FaultySystemCalls calls;
+    std::string infoAtMove;
+    calls.beforeRename = [&](const char*, const char* to) {
+        infoAtMove = readText(trashInfo() / (std::string(to) + ".trashinfo"));
+    };
+    Platform::ScopedSystemCalls installed(calls);
+    EXPECT_EQ(remove(RemovalMode::trash, {item}).removed.size(), 1u);
+    EXPECT_TRUE(infoAtMove.starts_with("[Trash Info]\nPath=/")) << infoAtMove;
+}
+
+// One row per failure kind: the item stays where it was, the reason says why, and a failed trash
+// move leaves no orphaned info file behind.
+struct FaultCase {
+    const char* name;
+    RemovalMode mode;
+    const char* call; // "unlink", "rename", "write", "mkdir"
+    int error;
+    const char* reasonKey; // nullptr: still removed
+};
+
+class CleanerFaults : public CleanerTest, public testing::WithParamInterface<FaultCase> {};
+
+TEST_P(CleanerFaults, ClassifiesEachFailure) {
+    const FaultCase& fault = GetParam();
+    const fs::path item = tree.file("home/Downloads/target.bin", 1);
+    TestSupport::FaultySystemCalls calls;
+    int remaining = fault.error == EINTR ? 3 : 1000; // an interrupted call is retried
+    const auto rule = [&](const char* name) {
+        const std::string_view n(name);
+        return (n == "target.bin" || n.starts_with("target.bin") || n == ".local" || n == "Trash") &&
+                       remaining-- > 0
+                   ? fault.error
+                   : 0;
+    };
+    const std::string_view call = fault.call;
+    if (call == "unlink")
+        calls.unlinkFault = rule;
+    else if (call == "rename")
+        calls.renameFault = rule;
+    else if (call == "mkdir")
+        calls.mkdirFault = rule;
+    else
+        calls.writeFault = [&] { return remaining-- > 0 ? fault.error : 0; };
+    RemovalReport report;
+    {
+        Platform::ScopedSystemCalls installed(calls);
+        report = remove(fault.mode, {item});
+    }
+    if (!fault.reasonKey) {
+        EXPECT_TRUE(report.failures.empty());
+        EXPECT_EQ(report.removed.size(), 1u);
+        return;
+    }
+    ASSERT_EQ(report.failures.size(), 1u);
+    EXPECT_EQ(report.failures[0].url, URL::file(item.string()));
+    EXPECT_EQ(report.failures[0].reason,
+              fault.error == EIO
+                  ? CoreL10n::format(fault.reasonKey, "en",
+                                     std::vector<CoreL10n::Argument>{std::string(std::strerror(EIO))})
+                  : text(fault.reasonKey));
+    EXPECT_TRUE(present(item)) << "nothing is lost";
+    EXPECT_EQ(report.bytes, 0);
+    if (present(trashInfo())) {
+        EXPECT_EQ(countEntries(trashInfo()), 0u);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EveryKind, CleanerFaults,
+    testing::Values(
+        FaultCase{"PermanentNoAccess", RemovalMode::permanent, "unlink", EACCES,
+                  "core.removal.failure.noPermission"},
+        FaultCase{"PermanentNotPermitted", RemovalMode::permanent, "unlink", EPERM,
+                  "core.removal.failure.noPermission"},
+        FaultCase{"PermanentBusy", RemovalMode::permanent, "unlink", EBUSY, "core.removal.failure.busy"},
+        FaultCase{"PermanentReadOnly", RemovalMode::permanent, "unlink", EROFS,
+                  "core.removal.failure.readOnly"},
+        FaultCase{"PermanentOther", RemovalMode::permanent, "unlink", EIO, "core.removal.failure.other"},
+        FaultCase{"PermanentInterrupted", RemovalMode::permanent, "unlink", EINTR, nullptr},
+        FaultCase{"PermanentAlreadyGone", RemovalMode::permanent, "unlink", ENOENT, nullptr},
+        FaultCase{"TrashNoAccess", RemovalMode::trash, "rename", EACCES, "core.removal.failure.noPermission"},
+        FaultCase{"TrashNotPermitted", RemovalMode::trash, "rename", EPERM,
+                  "core.removal.failure.noPermission"},
+        FaultCase{"TrashBusy", RemovalMode::trash, "rename", EBUSY, "core.removal.failure.busy"},
+        FaultCase{"TrashReadOnly", RemovalMode::trash, "rename", EROFS, "core.removal.failure.readOnly"},
+        FaultCase{"TrashNoSpaceForInfo", RemovalMode::trash, "write", ENOSPC, "core.removal.failure.noSpace"},
+        FaultCase{"TrashOnAnotherVolume", RemovalMode::trash, "rename", EXDEV,
+                  "core.removal.failure.noTrash"},
+        FaultCase{"TrashInterrupted", RemovalMode::trash, "rename", EINTR, nullptr},
+        FaultCase{"TrashInterruptedWrite", RemovalMode::trash, "write", EINTR, nullptr},
+        FaultCase{"TrashAlreadyGone", RemovalMode::trash, "rename", ENOENT, nullptr},
+        FaultCase{"TrashCannotBeMade", RemovalMode::trash, "mkdir", EACCES,
+                  "core.removal.failure.noPermission"}),
+    [](const testing::TestParamInfo<FaultCase>& row) { return std::string(row.param.name); });
+
+// The same tree goes to the trash, then out of it for good, as emptying the trash would.
+TEST_F(CleanerTest, AHundredThousandFilesGoInBothModesAndNothingElseDoes) {
+    const fs::path junk = tree.folder("home/junk");
+    for (int folder = 0; folder < 100; ++folder) {
+        const fs::path dir = tree.folder("home/junk/" + std::to_string(folder));
+        const int fd = ::open(dir.c_str(), O_RDONLY | O_DIRECTORY);
+        for (int file = 0; file < 1000; ++file)
+            ::close(::openat(fd, std::to_string(file).c_str(), O_CREAT | O_WRONLY, 0600));
+        ::close(fd);
+    }
+    tree.file("home/keep/a.txt", 1);
+    tree.file("home/keep/sub/b.txt", 1);
+    tree.symlink("home/junk/0/to-keep", home / "keep");
+    const std::size_t keptEntries = countEntries(home / "keep");
+
+    const RemovalReport trashed = remove(RemovalMode::trash, {junk});
+    EXPECT_TRUE(trashed.failures.empty());
+    EXPECT_FALSE(present(junk));
+    EXPECT_EQ(countEntries(trashFiles() / "junk"), 100u + 100'000u + 1u);
+    EXPECT_TRUE(present(trashInfo() / "junk.trashinfo"));
+
+    const RemovalReport deleted =
+        remove(RemovalMode::permanent, {trashFiles() / "junk", trashInfo() / "junk.trashinfo"});
+    EXPECT_TRUE(deleted.failures.empty());
+    EXPECT_EQ(countEntries(dataHome / "Trash"), 2u) << "files/ and info/ stay, empty";
+    EXPECT_EQ(countEntries(home / "keep"), keptEntries);
+}
