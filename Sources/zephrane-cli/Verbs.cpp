@@ -2,6 +2,7 @@
 
 namespace ZephraneCli {
 
+int runJunk(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
 int runSize(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
 int runGuard(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
 
@@ -12,6 +13,7 @@ const std::vector<Verb>& verbs() {
          runSize},
         {"guard", "guard PATH...", "whether removal would be allowed for each path, and what it would act on",
          runGuard},
+        {"junk", "junk [--json]", "what each junk rule finds in the home folder, largest items first", runJunk},
     };
     return all;
 }

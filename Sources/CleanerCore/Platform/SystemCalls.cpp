@@ -51,6 +51,12 @@ int SystemCalls::fchmod(int fd, mode_t mode) {
 char* SystemCalls::realpath(const char* path, char* resolved) {
     return ::realpath(path, resolved);
 }
+ssize_t SystemCalls::read(int fd, void* buffer, std::size_t length) {
+    return ::read(fd, buffer, length);
+}
+ssize_t SystemCalls::readlinkat(int dirfd, const char* path, char* buffer, std::size_t size) {
+    return ::readlinkat(dirfd, path, buffer, size);
+}
 
 SystemCalls& SystemCalls::current() {
     static SystemCalls real;

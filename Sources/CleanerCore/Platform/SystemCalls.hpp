@@ -29,6 +29,8 @@ public:
     virtual int fstat(int fd, struct ::stat* out);
     virtual int fchmod(int fd, mode_t mode);
     virtual char* realpath(const char* path, char* resolved);
+    virtual ssize_t read(int fd, void* buffer, std::size_t length);
+    virtual ssize_t readlinkat(int dirfd, const char* path, char* buffer, std::size_t size);
 
     // The calls in force: the real ones unless a test has installed others.
     static SystemCalls& current();

@@ -1,0 +1,174 @@
+#include "CleanerCore/Display/CoreL10n.hpp"
+#include "CleanerCore/Files/FileSize.hpp"
+#include "CleanerCore/Junk/JunkScanner.hpp"
+#include "FaultySystemCalls.hpp"
+#include "JunkHome.hpp"
+#include "TempTree.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace CleanerCore;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Source = JunkRule::Source;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::vector<std::string> names(const std::vector<URL>& urls) {
+    std::vector<std::string> result;
+    for (const URL& url : urls)
+        result.push_back(url.lastPathComponent());
+    return result;
+}
+
+std::vector<std::string> names(const JunkGroup& group) {
+    std::vector<std::string> result;
+    for (const CleanupItem& item : group.items)
+        result.push_back(item.name());
+    return result;
+}
+
+struct JunkHomeScan : testing::Test {
+    TestSupport::TempTree tree;
+    JunkScanner scanner{URL::file(tree.root().string()), JunkRule::defaults()};
+    void SetUp() override { TestSupport::buildJunkHome(tree.root()); }
+};
+
+} // namespace
+
+TEST(JunkRule, DefaultTableKeepsItsOrderSourcesAndChoices) {
+    const auto& rules = JunkRule::defaults();
+    std::vector<std::string> ids, symbols;
+    for (const JunkRule& rule : rules) {
+        ids.push_back(rule.id);
+        symbols.push_back(rule.symbol);
+        EXPECT_EQ(rule.selectedByDefault, rule.id != "dot-cache") << rule.id;
+        EXPECT_THAT(rule.title, testing::Not(testing::StartsWith("core."))) << "no text for " << rule.id;
+        EXPECT_THAT(rule.summary, testing::Not(testing::StartsWith("core."))) << "no text for " << rule.id;
+    }
+    EXPECT_THAT(ids, ElementsAre("user-caches", "user-logs", "xcode", "dev-caches", "dot-cache",
+                                 "incomplete-downloads"));
+    EXPECT_THAT(symbols, ElementsAre("internaldrive", "doc.text", "hammer", "shippingbox", "terminal",
+                                     "arrow.down.circle"));
+
+    EXPECT_THAT(rules[0].sources,
+                ElementsAre(Source::contents("Library/Caches", JunkRule::protectedCaches())));
+    EXPECT_EQ(JunkRule::protectedCaches().size(), 8u);
+    EXPECT_TRUE(JunkRule::protectedCaches().contains("com.apple.HomeKit"));
+    const std::string xcode = "Library/Developer/Xcode/";
+    EXPECT_THAT(rules[2].sources, ElementsAre(Source::contents(xcode + "DerivedData"),
+                                              Source::contents(xcode + "iOS DeviceSupport"),
+                                              Source::contents(xcode + "watchOS DeviceSupport"),
+                                              Source::contents(xcode + "macOS DeviceSupport"),
+                                              Source::contents(xcode + "visionOS DeviceSupport"),
+                                              Source::folder("Library/Developer/CoreSimulator/Caches")));
+    EXPECT_THAT(rules[3].sources,
+                ElementsAre(Source::folder(".npm/_cacache"), Source::folder("Library/pnpm/store"),
+                            Source::folder(".bun/install/cache"), Source::folder(".gradle/caches"),
+                            Source::folder(".cargo/registry/cache")));
+    EXPECT_THAT(rules[5].sources, ElementsAre(Source::files("Downloads", {"download", "crdownload", "part",
+                                                                          "partial", "opdownload"})));
+}
+
+TEST(JunkRule, TextsStayInTheLanguageOfFirstUse) {
+    const std::string before = CoreL10n::currentLanguage();
+    const std::string title = JunkRule::defaults()[0].title;
+    CoreL10n::setCurrentLanguage(before == "en" ? "pt-BR" : "en");
+    EXPECT_EQ(JunkRule::defaults()[0].title, title);
+    CoreL10n::setCurrentLanguage(before);
+}
+
+TEST_F(JunkHomeScan, CandidatesFollowTheKindOfSource) {
+    // Hidden entries and empty folders are candidates; .DS_Store and protected names are not.
+    EXPECT_THAT(
+        names(scanner.candidates(JunkRule::defaults()[0].sources[0])),
+        testing::UnorderedElementsAre("com.example.app", "com.example.tool", ".hidden-cache", "EmptyCache"));
+    // Only what the exclusion names, compared exactly.
+    tree.file("Library/Caches/cloudkit/x", 1);
+    EXPECT_THAT(names(scanner.candidates(Source::contents("Library/Caches", {"CloudKit"}))),
+                testing::Contains("cloudkit"));
+
+    // Extensions are lower-cased, folders with one count, a subfolder is never entered.
+    EXPECT_THAT(names(scanner.candidates(JunkRule::defaults()[5].sources[0])),
+                testing::UnorderedElementsAre("movie.crdownload", "Report.PART", "Keynote.download"));
+
+    EXPECT_THAT(names(scanner.candidates(Source::folder("Library/Developer/CoreSimulator/Caches"))),
+                ElementsAre("Caches"));
+    EXPECT_THAT(scanner.candidates(Source::folder("Library/pnpm/store")), IsEmpty());
+    EXPECT_THAT(scanner.candidates(Source::contents("Library/Nowhere")), IsEmpty());
+    EXPECT_THAT(scanner.candidates(Source::files("Library/Logs/app.log", {"log"})), IsEmpty());
+}
+
+TEST_F(JunkHomeScan, GroupsEveryRuleLargestFirstAndMarksRunningApplications) {
+    const auto groups = scanner.scan({"com.example.app", "org.unrelated"});
+    ASSERT_EQ(groups.size(), 6u);
+    for (std::size_t i = 0; i < groups.size(); ++i)
+        EXPECT_EQ(groups[i].rule, JunkRule::defaults()[i]);
+
+    const JunkGroup& caches = groups[0];
+    EXPECT_THAT(names(caches), ElementsAre("com.example.app", "com.example.tool", ".hidden-cache"));
+    EXPECT_EQ(caches.items[0].note, CoreL10n::string("core.note.appOpen"));
+    EXPECT_FALSE(caches.items[0].selectedByDefault);
+    EXPECT_EQ(caches.items[1].note, std::nullopt);
+    EXPECT_TRUE(caches.items[1].selectedByDefault);
+    for (const CleanupItem& item : caches.items)
+        EXPECT_EQ(item.size, FileSize::allocatedSize(item.url)) << item.name();
+    EXPECT_EQ(caches.totalSize(), caches.items[0].size + caches.items[1].size + caches.items[2].size);
+
+    EXPECT_THAT(names(groups[1]), ElementsAre("app.log"));
+    // Each derived-data project on its own, the simulator caches as one.
+    EXPECT_THAT(names(groups[2]), ElementsAre("ProjectA-abc", "Caches", "17.0 (21A329)", "ProjectB-def"));
+    EXPECT_THAT(names(groups[3]), ElementsAre("_cacache", "cache"));
+    EXPECT_THAT(names(groups[4]), ElementsAre("pip", "fontconfig"));
+    EXPECT_FALSE(groups[4].items[0].selectedByDefault) << "the rule's choice reaches its items";
+    EXPECT_THAT(names(groups[5]), ElementsAre("movie.crdownload", "Report.PART", "Keynote.download"));
+
+    // Once the application quits, a new scan preselects its cache again.
+    const auto later = scanner.scan({});
+    EXPECT_TRUE(later[0].items[0].selectedByDefault);
+    EXPECT_EQ(later[0].items[0].note, std::nullopt);
+}
+
+TEST_F(JunkHomeScan, EqualSizesKeepTheListingOrder) {
+    for (const char* name : {"b.log", "a.log", "d.log", "c.log"})
+        tree.file(std::string("Library/Logs/") + name, 4096);
+    std::vector<std::string> listed = names(scanner.candidates(Source::contents("Library/Logs")));
+    std::erase(listed, "app.log");
+    std::vector<std::string> scanned = names(scanner.scan({})[1]);
+    ASSERT_EQ(scanned.front(), "app.log");
+    scanned.erase(scanned.begin());
+    EXPECT_EQ(scanned, listed);
+}
+
+TEST(JunkScanner, BareOrUnreadableHomeGivesEmptyGroups) {
+    TestSupport::TempTree tree;
+    const JunkScanner scanner{URL::file(tree.root().string()), JunkRule::defaults()};
+    auto groups = scanner.scan({});
+    ASSERT_EQ(groups.size(), 6u);
+    for (const JunkGroup& group : groups)
+        EXPECT_THAT(group.items, IsEmpty()) << group.id();
+
+    TestSupport::buildJunkHome(tree.root());
+    TestSupport::FaultySystemCalls calls;
+    calls.openFault = [](const char* path) {
+        return std::string_view(path).ends_with("Caches") ? EACCES : 0;
+    };
+    const CleanerCore::Platform::ScopedSystemCalls scoped(calls);
+    groups = scanner.scan({});
+    EXPECT_THAT(groups[0].items, IsEmpty());
+    EXPECT_THAT(names(groups[1]), ElementsAre("app.log"));
+}
+
+TEST(JunkGroup, RemovingKeepsTheGroupAndTheRest) {
+    const JunkGroup group{JunkRule::defaults()[1],
+                          {{URL::file("/h/a"), 30, std::nullopt, true}, {URL::file("/h/b"), 12, "n", false}}};
+    const JunkGroup left = group.removing({URL::file("/h/a/"), URL::file("/elsewhere")});
+    EXPECT_EQ(left.rule, group.rule);
+    ASSERT_EQ(left.items.size(), 1u);
+    EXPECT_EQ(left.items[0], group.items[1]);
+    EXPECT_EQ(left.totalSize(), 12);
+    EXPECT_THAT(group.removing({URL::file("/h/a"), URL::file("/h/b")}).items, IsEmpty());
+    EXPECT_EQ(group.removing({URL::file("/h/a"), URL::file("/h/b")}).id(), "user-logs");
+}

@@ -1,0 +1,77 @@
+#include "CleanerCore/Platform/RunningApplications.hpp"
+#include "TempTree.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <unistd.h>
+
+using namespace CleanerCore::Platform;
+using testing::ElementsAre;
+
+namespace {
+
+void writeText(const std::filesystem::path& path, const std::string& text) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path) << text;
+}
+
+std::string infoPlist(const std::string& identifier, const std::string& name) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>"
+           "<key>CFBundleIdentifier</key><string>" +
+           identifier + "</string><key>CFBundleName</key><string>" + name + "</string></dict></plist>\n";
+}
+
+} // namespace
+
+TEST(RunningApplications, BundlesComeFromTheExecutablesInnermostApp) {
+    TestSupport::TempTree tree;
+    const auto apps = tree.path("Applications");
+    writeText(apps / "Mail.app/Contents/Info.plist", infoPlist("com.example.mail", "Mail"));
+    writeText(apps / "Mail.app/Contents/MacOS/Mail", "");
+    writeText(apps / "Mail.app/Contents/Helpers/Sync.app/Contents/Info.plist",
+              infoPlist("com.example.mail.sync", "Sync"));
+    writeText(apps / "Mail.app/Contents/Helpers/Sync.app/Contents/MacOS/sync", "");
+    writeText(apps / "Bare.app/Contents/MacOS/bare", ""); // no Info.plist
+
+    const auto proc = tree.folder("proc");
+    const auto process = [&](const std::string& pid, const std::string& comm,
+                             const std::filesystem::path& exe) {
+        writeText(proc / pid / "comm", comm + "\n");
+        tree.symlink("proc/" + pid + "/exe", exe);
+    };
+    process("10", "Mail", apps / "Mail.app/Contents/MacOS/Mail");
+    process("11", "sync", apps / "Mail.app/Contents/Helpers/Sync.app/Contents/MacOS/sync");
+    process("12", "bash", "/usr/bin/bash (deleted)");
+    process("13", "bare", apps / "Bare.app/Contents/MacOS/bare");
+    writeText(proc / "14/comm", "kthreadd\n"); // no readable executable
+    tree.folder("proc/15");                    // ended between listing and reading
+    writeText(proc / "self/comm", "ignored\n");
+
+    auto running = runningApplications(proc.string());
+    std::ranges::sort(running, {}, &RunningApplication::pid);
+    ASSERT_EQ(running.size(), 5u);
+    EXPECT_EQ(running[0], (RunningApplication{10, "Mail", (apps / "Mail.app/Contents/MacOS/Mail").string(),
+                                              "com.example.mail", (apps / "Mail.app").string()}));
+    EXPECT_EQ(running[1].bundleIdentifier, "com.example.mail.sync");
+    EXPECT_EQ(running[1].bundlePath, (apps / "Mail.app/Contents/Helpers/Sync.app").string());
+    EXPECT_EQ(running[2], (RunningApplication{12, "bash", "/usr/bin/bash", std::nullopt, std::nullopt}));
+    EXPECT_EQ(running[3].name, "bare");
+    EXPECT_EQ(running[3].bundleIdentifier, std::nullopt);
+    EXPECT_EQ(running[4].executablePath, "");
+
+    EXPECT_THAT(runningBundleIdentifiers(proc.string()),
+                ElementsAre("com.example.mail", "com.example.mail.sync"));
+    EXPECT_TRUE(runningApplications(tree.path("missing").string()).empty());
+}
+
+TEST(RunningApplications, FindsThisProcessInTheRealProcTable) {
+    const auto running = runningApplications();
+    const auto self = std::ranges::find(running, static_cast<int>(::getpid()), &RunningApplication::pid);
+    ASSERT_NE(self, running.end());
+    EXPECT_THAT(self->executablePath, testing::EndsWith("CleanerCoreTests"));
+    EXPECT_EQ(enclosingAppBundle("/opt/A.app/Contents/MacOS/a"), "/opt/A.app");
+    EXPECT_EQ(enclosingAppBundle("/opt/.app/a"), std::nullopt);
+    EXPECT_EQ(enclosingAppBundle("/usr/bin/a"), std::nullopt);
+}
