@@ -334,30 +334,39 @@ bool isProtectedPath(std::string_view path, std::span<const std::string> homes,
     return linuxProtected(path, parts, homes) || inMovedHomeTrash(path, parent);
 }
 
-URL check(const URL& url, const URL& home, const std::optional<URL>& ownBundle) {
-    const std::string literal = normalized(url.isFile() ? standardizedPath(url.path()) : url.path());
+namespace {
+
+// The path removal must act on, or nothing when the guard refuses; `literal` is what a refusal names.
+std::optional<URL> evaluate(const URL& url, const URL& home, const std::optional<URL>& ownBundle,
+                            std::string& literal) {
+    literal = normalized(url.isFile() ? standardizedPath(url.path()) : url.path());
     if (!url.isFile() || !literal.starts_with('/') || literal == "/")
-        throw Refusal(literal);
+        return std::nullopt;
     // A home that is no absolute path would make every test below it meaningless.
     if (!home.isFile() || !home.path().starts_with('/'))
-        throw Refusal(literal);
+        return std::nullopt;
     const std::string resolved = resolvingParent(literal);
     const std::vector<std::string> homes = bothSpellings(home);
     std::vector<std::string> bundles;
     if (ownBundle)
         bundles = bothSpellings(*ownBundle);
     if (isProtectedPath(folded(literal), homes, bundles) || isProtectedPath(folded(resolved), homes, bundles))
-        throw Refusal(literal);
+        return std::nullopt;
     return URL::file(resolved);
 }
 
+} // namespace
+
+URL check(const URL& url, const URL& home, const std::optional<URL>& ownBundle) {
+    std::string literal;
+    if (std::optional<URL> target = evaluate(url, home, ownBundle, literal))
+        return *target;
+    throw Refusal(literal);
+}
+
 bool isProtected(const URL& url, const URL& home, const std::optional<URL>& ownBundle) {
-    try {
-        check(url, home, ownBundle);
-        return false;
-    } catch (const Refusal&) {
-        return true;
-    }
+    std::string literal;
+    return !evaluate(url, home, ownBundle, literal).has_value();
 }
 
 const std::optional<URL>& runningAppBundle() {
