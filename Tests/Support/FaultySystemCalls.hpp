@@ -5,6 +5,7 @@
 #include <atomic>
 #include <cerrno>
 #include <functional>
+#include <sys/stat.h>
 
 namespace TestSupport {
 
@@ -98,5 +99,11 @@ private:
         return -1;
     }
 };
+
+// What `path` itself occupies on disk (its allocated blocks, links not followed); -1 if absent.
+inline std::int64_t allocatedBytes(const char* path) {
+    struct stat info {};
+    return ::lstat(path, &info) == 0 ? static_cast<std::int64_t>(info.st_blocks) * 512 : -1;
+}
 
 } // namespace TestSupport
