@@ -5,6 +5,7 @@ namespace ZephraneCli {
 int runJunk(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
 int runSize(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
 int runGuard(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
+int runTree(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
 
 // Each verb lives in a file of its own (<Name>Verb.cpp) and is listed here once.
 const std::vector<Verb>& verbs() {
@@ -14,6 +15,8 @@ const std::vector<Verb>& verbs() {
         {"guard", "guard PATH...", "whether removal would be allowed for each path, and what it would act on",
          runGuard},
         {"junk", "junk [--json]", "what each junk rule finds in the home folder, largest items first", runJunk},
+        {"tree", "tree PATH [--json] [--min-node-size BYTES] [--keep N]",
+         "what takes up the space below PATH, folder by folder, small items summed up", runTree},
     };
     return all;
 }
