@@ -48,7 +48,9 @@ void appendNumber(std::string& out, std::int64_t value) {
 
 } // namespace
 
-DiskTreeJson::DiskTreeJson(std::ostream& out) : out(out) { buffer.reserve(flushAt + 64 * 1024); }
+DiskTreeJson::DiskTreeJson(std::ostream& out) : out(out) {
+    buffer.reserve(flushAt + 64 * 1024);
+}
 
 DiskTreeJson::~DiskTreeJson() {
     if (!buffer.empty())

@@ -22,7 +22,9 @@ using CleanerCore::DiskNode;
 // Levels below the root that the text report shows.
 constexpr int textLevels = 2;
 
-std::string sizeText(std::int64_t bytes) { return std::to_string(bytes) + " B"; }
+std::string sizeText(std::int64_t bytes) {
+    return std::to_string(bytes) + " B";
+}
 
 void printText(const DiskNode& node, int level, std::ostream& out) {
     out << std::string(static_cast<std::size_t>(level) * 2, ' ') << sizeText(node.size()) << "  "
@@ -69,7 +71,8 @@ int runTree(const std::vector<std::string>& words, std::ostream& out, std::ostre
         const CleanerCore::Platform::FileDescriptor probe(
             CleanerCore::Platform::openDirectory(AT_FDCWD, scanner.root.c_str()));
         if (!probe)
-            err << "zephrane-cli tree: cannot read '" << scanner.root << "': " << std::strerror(errno) << "\n";
+            err << "zephrane-cli tree: cannot read '" << scanner.root << "': " << std::strerror(errno)
+                << "\n";
     }
 
     DiskNode::Pointer tree;

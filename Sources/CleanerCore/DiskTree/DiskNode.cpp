@@ -8,7 +8,9 @@
 namespace CleanerCore {
 namespace {
 
-bool separated(std::string_view folder) { return !folder.ends_with('/'); }
+bool separated(std::string_view folder) {
+    return !folder.ends_with('/');
+}
 
 std::uint16_t clampedLength(std::size_t length) {
     return static_cast<std::uint16_t>(std::min<std::size_t>(length, UINT16_MAX));
@@ -21,7 +23,9 @@ struct DiskNode::Links {
     std::shared_ptr<const void> owner;
     std::size_t count = 0;
 
-    Pointer* slots() { return reinterpret_cast<Pointer*>(reinterpret_cast<std::byte*>(this) + sizeof(Links)); }
+    Pointer* slots() {
+        return reinterpret_cast<Pointer*>(reinterpret_cast<std::byte*>(this) + sizeof(Links));
+    }
 
     static Links* make(std::shared_ptr<const void> owner, std::vector<Pointer>& children) {
         static_assert(sizeof(Links) % alignof(Pointer) == 0);
@@ -163,7 +167,8 @@ std::optional<std::vector<DiskNode::Pointer>> DiskNode::pathTo(const Pointer& no
 DiskNode::Pointer DiskNode::removing(const Pointer& node, const std::unordered_set<URL>& urls) {
     if (node->children().empty())
         return node;
-    if (std::none_of(urls.begin(), urls.end(), [&](const URL& url) { return node->pathIsPrefixOf(url.path()); }))
+    if (std::none_of(urls.begin(), urls.end(),
+                     [&](const URL& url) { return node->pathIsPrefixOf(url.path()); }))
         return node;
     std::vector<Pointer> kept;
     kept.reserve(node->children().size());
@@ -185,8 +190,8 @@ DiskNode::Pointer DiskNode::removing(const Pointer& node, const std::unordered_s
     orderChildren(kept);
     // A node with children always holds what keeps its text alive.
     return std::make_shared<const DiskNode>(*node->text, node->links->owner, node->flags & folderItselfFlag,
-                                            node->nameOffset, node->nameLength, size, node->isDirectory(), count,
-                                            node->isAggregate(), std::move(kept));
+                                            node->nameOffset, node->nameLength, size, node->isDirectory(),
+                                            count, node->isAggregate(), std::move(kept));
 }
 
 std::string_view DiskNode::lastComponent(std::string_view path) {

@@ -47,9 +47,9 @@ public:
     // and its path is text.path() itself (`isFolderItself`) or text.path() + "/" + name (for an
     // aggregate, + "/" + smallItemsComponent). `textOwner` keeps `text` alive; it may only be null
     // for a leaf of the Block that holds `text`.
-    DiskNode(const Text& text, std::shared_ptr<const void> textOwner, bool isFolderItself, std::size_t nameOffset,
-             std::size_t nameLength, std::int64_t size, bool isDirectory, std::int64_t itemCount,
-             bool isAggregate, std::vector<Pointer> children);
+    DiskNode(const Text& text, std::shared_ptr<const void> textOwner, bool isFolderItself,
+             std::size_t nameOffset, std::size_t nameLength, std::int64_t size, bool isDirectory,
+             std::int64_t itemCount, bool isAggregate, std::vector<Pointer> children);
 
     ~DiskNode();
     DiskNode(DiskNode&& other) noexcept;

@@ -68,7 +68,7 @@ struct NameRef {
 struct DiskTreeScanner::Child {
     DiskNode::Pointer node; // the `node` case; null for a leaf
     std::int64_t size = 0;
-    NameRef name;           // a leaf's name in its listing's `names`
+    NameRef name; // a leaf's name in its listing's `names`
     bool isPackage = false;
 };
 
@@ -82,7 +82,9 @@ struct DiskTreeScanner::Listing {
     std::int64_t foldedSize = 0;
     std::int64_t foldedCount = 0;
 
-    std::string_view view(NameRef ref) const { return std::string_view(names).substr(ref.offset, ref.length); }
+    std::string_view view(NameRef ref) const {
+        return std::string_view(names).substr(ref.offset, ref.length);
+    }
     const char* cString(NameRef ref) const { return names.data() + ref.offset; }
     NameRef keep(std::string_view name) {
         const NameRef ref{static_cast<std::uint32_t>(names.size()), static_cast<std::uint16_t>(name.size())};
@@ -154,7 +156,9 @@ public:
         std::vector<std::optional<Child>> results(folderCount + listing.packages.size());
         tbb::task_group group;
         for (std::size_t i = 0; i < folderCount; ++i)
-            group.run([&, i] { results[i] = folderTask(childPath(path, listing.view(listing.folders[i])), depth + 1); });
+            group.run([&, i] {
+                results[i] = folderTask(childPath(path, listing.view(listing.folders[i])), depth + 1);
+            });
         for (std::size_t i = 0; i < listing.packages.size(); ++i)
             group.run([&, i] {
                 if (stop.stop_requested())
@@ -182,7 +186,8 @@ public:
                 const NameRef name = top.listing.folders[top.next++];
                 std::string below = childPath(top.path, top.listing.view(name));
                 const int parentFd = descriptor(descent);
-                const int childFd = parentFd < 0 ? -1 : Platform::openDirectory(parentFd, top.listing.cString(name));
+                const int childFd =
+                    parentFd < 0 ? -1 : Platform::openDirectory(parentFd, top.listing.cString(name));
                 if (top.next == top.listing.folders.size())
                     release(descent, top); // nothing more to open below it
                 if (childFd < 0)
@@ -308,15 +313,15 @@ private:
     // those of at least the minimum size, and of the others those that rank among the first
     // `alwaysKeep` of the folder.
     std::vector<Child>::iterator survivors(std::vector<Child>& children, const Listing& listing) const {
-        const auto big = std::partition(children.begin(), children.end(),
-                                        [&](const Child& child) { return child.size >= scanner.minimumNodeSize; });
+        const auto big = std::partition(children.begin(), children.end(), [&](const Child& child) {
+            return child.size >= scanner.minimumNodeSize;
+        });
         const std::int64_t room = std::max<std::int64_t>(scanner.alwaysKeep, 0) - (big - children.begin());
         const auto kept = big + std::clamp<std::int64_t>(room, 0, children.end() - big);
         if (kept != children.end())
             std::nth_element(big, kept, children.end(), before(listing));
         return kept;
     }
-
 
     void enter(Descent& descent, int fd, bool owned, std::string path) {
         Level level{std::move(path), fd, owned, {}, 0};
@@ -404,12 +409,13 @@ private:
         block->leaves.reserve(leafCount);
         std::vector<DiskNode::Pointer> nodes;
         nodes.reserve(static_cast<std::size_t>(kept - children.begin()) + (smallCount > 0 ? 1 : 0));
-        const auto addLeaf = [&](std::string_view name, std::int64_t size, std::int64_t items, bool isAggregate) {
+        const auto addLeaf = [&](std::string_view name, std::int64_t size, std::int64_t items,
+                                 bool isAggregate) {
             const std::size_t offset = text.chars.size();
             text.chars.append(name);
-            const DiskNode& leaf = block->leaves.emplace_back(text, nullptr, false, offset, name.size(), size,
-                                                              false, items, isAggregate,
-                                                              std::vector<DiskNode::Pointer>{});
+            const DiskNode& leaf =
+                block->leaves.emplace_back(text, nullptr, false, offset, name.size(), size, false, items,
+                                           isAggregate, std::vector<DiskNode::Pointer>{});
             nodes.push_back(DiskNode::Pointer(block, &leaf));
         };
         for (auto it = children.begin(); it != kept; ++it) {
@@ -423,8 +429,9 @@ private:
         children.clear();
         const std::string_view folderName = DiskNode::lastComponent(text.path());
         const auto folderNameOffset = static_cast<std::size_t>(folderName.data() - text.chars.data());
-        return std::make_shared<const DiskNode>(text, std::move(block), true, folderNameOffset, folderName.size(),
-                                                total, true, count, false, std::move(nodes));
+        return std::make_shared<const DiskNode>(text, std::move(block), true, folderNameOffset,
+                                                folderName.size(), total, true, count, false,
+                                                std::move(nodes));
     }
 
     // The aggregate's name, formatted once per count and scan rather than once per folder.
@@ -451,7 +458,8 @@ DiskNode::Pointer DiskTreeScanner::scan(const Reporting& reporting, std::stop_to
     Counter counter(reporting);
     std::uint64_t device = ~std::uint64_t{0};
     struct statx info;
-    if (Platform::SystemCalls::current().statx(AT_FDCWD, path.c_str(), AT_STATX_DONT_SYNC, STATX_TYPE, &info) == 0)
+    if (Platform::SystemCalls::current().statx(AT_FDCWD, path.c_str(), AT_STATX_DONT_SYNC, STATX_TYPE,
+                                               &info) == 0)
         device = makedev(info.stx_dev_major, info.stx_dev_minor);
     Walk walk(*this, counter, device, stop);
     FileDescriptor fd(Platform::openDirectory(AT_FDCWD, path.c_str()));

@@ -1,0 +1,227 @@
+#include "CleanerCore/DiskTree/DiskTreeScanner.hpp"
+#include "CleanerCore/DiskTree/ReferenceDiskTreeScanner.hpp"
+#include "DeepChain.hpp"
+#include "DiskTreeChecks.hpp"
+#include "FaultySystemCalls.hpp"
+#include "TempTree.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <fcntl.h>
+#include <random>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace CleanerCore;
+using DiskTreeChecks::difference;
+using DiskTreeChecks::malformation;
+using TestSupport::TempTree;
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Shape {
+    bool appleDouble = false; // "._" files and folders, which only the reference shows
+    bool locked = false;      // folders named "locked…", which tests make unreadable
+};
+
+// A random tree with every kind of item a disk holds: nested folders (deeper than the fan-out),
+// files of every size class around the fold thresholds, packages, hard links, links to files and
+// folders (one back to the root), dangling links, pipes, empty folders, names with spaces and
+// bytes that are not UTF-8.
+void randomTree(const TempTree& tree, unsigned seed, Shape shape) {
+    std::mt19937 random(seed);
+    const auto pick = [&](std::size_t n) { return static_cast<std::size_t>(random() % n); };
+    const std::vector<std::string> stems{"a",          "Docs",    "caf\xc3\xa9", "bad\xff\xfe",
+                                         "with space", ".hidden", "\x80"};
+    const std::vector<std::size_t> sizes{0, 1, 4095, 4097, 9000, 50'000, 300'000, 1'100'000};
+    std::vector<fs::path> folders{tree.root()}, files;
+    const auto write = [&](const fs::path& path, std::size_t bytes) {
+        tree.file(fs::relative(path, tree.root()).string(), bytes);
+        files.push_back(path);
+    };
+    for (int step = 0, steps = 120 + static_cast<int>(pick(180)); step < steps; ++step) {
+        const fs::path parent = folders[pick(folders.size())];
+        const std::string name = stems[pick(stems.size())] + std::to_string(step);
+        switch (pick(12)) {
+        case 0:
+        case 1:
+        case 2: {
+            const fs::path folder = (random() % 2 ? folders.back() : parent) / name;
+            fs::create_directory(folder);
+            folders.push_back(folder);
+            break;
+        }
+        case 3: { // a package holds files and folders but stays one leaf
+            const fs::path package = parent / (name + ".app");
+            write(package / "Contents" / "binary", sizes[pick(sizes.size())]);
+            write(package / "Info.plist", 100);
+            break;
+        }
+        case 4:
+            if (!files.empty()) {
+                EXPECT_EQ(::link(files[pick(files.size())].c_str(), (parent / name).c_str()), 0);
+            }
+            break;
+        case 5:
+            fs::create_symlink(random() % 2 ? folders[pick(folders.size())] : tree.root(), parent / name);
+            break;
+        case 6:
+            fs::create_symlink(random() % 2 && !files.empty() ? files[pick(files.size())] : "/nowhere",
+                               parent / name);
+            break;
+        case 7:
+            EXPECT_EQ(::mkfifo((parent / name).c_str(), 0600), 0);
+            break;
+        case 8:
+            if (shape.appleDouble)
+                write(parent / ("._" + name), 4096);
+            else
+                fs::create_directory(parent / name);
+            break;
+        case 9:
+            if (shape.locked) {
+                write(parent / ("locked" + name) / "inside", 5000);
+                break;
+            }
+            [[fallthrough]];
+        default:
+            write(parent / name, sizes[pick(sizes.size())]);
+        }
+    }
+    if (shape.appleDouble)
+        fs::create_directory(folders[pick(folders.size())] / "._folder");
+}
+
+void visit(const DiskNode& node, const std::function<void(const DiskNode&)>& see) {
+    see(node);
+    for (const DiskNode::Pointer& child : node.children())
+        visit(*child, see);
+}
+
+struct Fold {
+    std::int64_t alwaysKeep;
+    std::int64_t minimumNodeSize;
+};
+constexpr Fold noFold{1'000'000'000, 0};
+
+std::string compare(const fs::path& root, Fold fold) {
+    const auto fast = DiskTreeScanner{root.string(), fold.minimumNodeSize, fold.alwaysKeep}.scan(
+        DiskTreeScanner::Reporting{});
+    const auto reference =
+        ReferenceDiskTreeScanner{root.string(), fold.minimumNodeSize, fold.alwaysKeep}.scan();
+    if (std::string broken = malformation(*fast); !broken.empty())
+        return broken;
+    return difference(*fast, *reference);
+}
+
+} // namespace
+
+TEST(DiskTreeAgreement, RandomTreesGiveTheReferenceTreeAtEveryFold) {
+    for (unsigned seed = 1; seed <= 10; ++seed) {
+        TempTree tree;
+        randomTree(tree, seed, {});
+        for (const Fold fold : {Fold{12, 1'000'000}, Fold{2, 8192}, Fold{0, 4097}, Fold{5, 0}, noFold})
+            EXPECT_EQ(compare(tree.root(), fold), "")
+                << "seed " << seed << ", keep " << fold.alwaysKeep << ", minimum " << fold.minimumNodeSize;
+    }
+}
+
+// Without folding, the reference less its "._" items and less what unreadable folders hold is
+// exactly the fast tree, where those folders are empty.
+TEST(DiskTreeAgreement, AppleDoubleNamesAndUnreadableFoldersDifferOnlyAsIntended) {
+    TestSupport::FaultySystemCalls calls;
+    calls.openFault = [](const char* path) {
+        const char* slash = std::strrchr(path, '/');
+        return std::strncmp(slash ? slash + 1 : path, "locked", 6) == 0 ? EACCES : 0;
+    };
+    for (unsigned seed = 20; seed < 26; ++seed) {
+        TempTree tree;
+        randomTree(tree, seed, {.appleDouble = true, .locked = true});
+        const auto reference = ReferenceDiskTreeScanner{tree.root().string(), 0, noFold.alwaysKeep}.scan();
+        std::unordered_set<URL> hidden;
+        visit(*reference, [&](const DiskNode& node) {
+            if (node.name().starts_with("._"))
+                hidden.insert(node.url());
+            if (node.isDirectory() && node.name().starts_with("locked"))
+                for (const DiskNode::Pointer& inside : node.children())
+                    hidden.insert(inside->url());
+        });
+        ASSERT_FALSE(hidden.empty());
+        const auto expected = DiskNode::removing(reference, hidden);
+
+        const Platform::ScopedSystemCalls scope(calls);
+        const auto fast =
+            DiskTreeScanner{tree.root().string(), 0, noFold.alwaysKeep}.scan(DiskTreeScanner::Reporting{});
+        EXPECT_EQ(difference(*fast, *expected), "") << "seed " << seed;
+        EXPECT_EQ(calls.openNow, 0) << "every descriptor is closed";
+    }
+}
+
+TEST(DiskTreeAgreement, AFolderOfAHundredThousandFiles) {
+    TempTree tree;
+    const fs::path many = tree.folder("many");
+    const int fd = ::open(many.c_str(), O_RDONLY | O_DIRECTORY);
+    ASSERT_GE(fd, 0);
+    for (int i = 0; i < 100'000; ++i) {
+        const std::string name = "file-" + std::to_string(i);
+        const int file = ::openat(fd, name.c_str(), O_WRONLY | O_CREAT, 0644);
+        ASSERT_GE(file, 0);
+        if (i % 997 == 0) { // a hundred files that occupy a block, so that ranking matters
+            ASSERT_EQ(::write(file, "x", 1), 1);
+        }
+        ::close(file);
+    }
+    ::close(fd);
+    tree.file("big", 2'000'000);
+    EXPECT_EQ(compare(tree.root(), {12, 1'000'000}), "");
+    const auto fast = DiskTreeScanner{tree.root().string()}.scan(DiskTreeScanner::Reporting{});
+    ASSERT_EQ(fast->children().size(), 2u);
+    const DiskNode& folder = *fast->children()[1];
+    ASSERT_EQ(folder.children().size(), 13u);
+    EXPECT_EQ(folder.children().back()->itemCount(), 100'000 - 12);
+    EXPECT_EQ(folder.itemCount(), 100'000);
+}
+
+TEST(DiskTreeAgreement, ADeepChainAgreesAndAChainPastThePathLimitIsWalkedWhole) {
+    {
+        TempTree tree; // deep, but within what the reference can open by path
+        const TestSupport::DeepChain chain(tree.root(), 1500);
+        EXPECT_EQ(compare(tree.root(), {1, 1'000'000}), "");
+    }
+    TempTree tree;
+    const TestSupport::DeepChain chain(tree.root(), 3000);
+    TestSupport::FaultySystemCalls calls;
+    const Platform::ScopedSystemCalls scope(calls);
+    const auto fast = DiskTreeScanner{tree.root().string(), 1'000'000, 1}.scan(DiskTreeScanner::Reporting{});
+    EXPECT_EQ(fast->size(), chain.total());
+    EXPECT_EQ(fast->itemCount(), 3000);
+    EXPECT_EQ(malformation(*fast), "");
+    int depth = 0;
+    for (const DiskNode* node = fast.get(); !node->children().empty(); node = node->children()[0].get())
+        depth += node->children()[0]->isDirectory() ? 1 : 0;
+    EXPECT_EQ(depth, 3000);
+    EXPECT_LT(calls.openPeak, 100);
+    EXPECT_EQ(calls.openNow, 0);
+}
+
+// Deep levels that still have folders to visit give their descriptors back for a while and get
+// them again by name.
+TEST(DiskTreeAgreement, DeepLevelsWithSiblingsKeepFewDescriptorsOpen) {
+    TempTree tree;
+    std::string path;
+    for (int level = 0; level < 150; ++level) {
+        tree.file(path + "a/f", 10);
+        tree.folder(path + "z");
+        path += "d/";
+    }
+    tree.file(path + "end", 5000);
+    TestSupport::FaultySystemCalls calls;
+    {
+        const Platform::ScopedSystemCalls scope(calls);
+        EXPECT_EQ(compare(tree.root(), {3, 1'000'000}), "");
+    }
+    EXPECT_LE(calls.openPeak, 48);
+    EXPECT_EQ(calls.openNow, 0);
+}
