@@ -17,7 +17,8 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("ZephraneTests"));
     QCoreApplication::setApplicationName(QStringLiteral("ZephraneTests"));
-    AppLanguage::install(app, AppLanguage::english);
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZEPHRANE_VERSION));
+    AppLanguages::install(app, AppLanguages::rawValue(AppLanguage::english));
     PainelTheme::installFonts();
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     ::testing::InitGoogleTest(&argc, argv);

@@ -9,6 +9,7 @@ Rectangle {
 
     required property AppModel appModel
     required property GoCommands goCommands
+    signal settingsRequested
 
     implicitWidth: 252
     implicitHeight: keys.implicitHeight + 220
@@ -57,6 +58,19 @@ Rectangle {
         }
 
         Item { Layout.fillHeight: true }
+
+        ShellChannelKey {
+            objectName: "settingsKey"
+            Layout.fillWidth: true
+            Layout.bottomMargin: 10
+            info: ({
+                shortLabel: qsTrId("settings.short"),
+                title: qsTrId("settings.title"),
+                keyEquivalent: ",",
+                accessibilityName: qsTrId("settings.title")
+            })
+            onActivated: root.settingsRequested()
+        }
 
         ChannelDiskPoller { id: disk }
 

@@ -30,6 +30,29 @@ Window {
         anchors.fill: parent
         appModel: main.appModel
         window: main
+        onSettingsRequested: main.openSettings()
+    }
+
+    function openSettings() {
+        settingsView.show()
+        settingsView.raise()
+        settingsView.requestActivate()
+    }
+
+    SettingsView {
+        id: settingsView
+        visible: false
+        onWelcomeRequested: {
+            main.show()
+            main.raise()
+            main.requestActivate()
+        }
+    }
+
+    Shortcut {
+        sequence: "Ctrl+,"
+        context: Qt.ApplicationShortcut
+        onActivated: main.openSettings()
     }
 
     GoShortcuts {

@@ -12,6 +12,7 @@ Item {
     readonly property alias goCommands: goCommands
     readonly property real implicitMinimumWidth: column.implicitWidth + 640
     readonly property real implicitMinimumHeight: Math.max(column.implicitHeight, 560)
+    signal settingsRequested
 
     GoCommands {
         id: goCommands
@@ -27,6 +28,7 @@ Item {
             Layout.fillHeight: true
             appModel: root.appModel
             goCommands: goCommands
+            onSettingsRequested: root.settingsRequested()
         }
 
         Rectangle {

@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationVersion(QStringLiteral(ZEPHRANE_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("zephrane"));
 
-    AppLanguage::install(app, AppLanguage::atLaunch());
+    AppLanguages::install(app, AppLanguages::resolvedLocalization(AppLanguages::atLaunch()));
     PainelTheme::installFonts();
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 

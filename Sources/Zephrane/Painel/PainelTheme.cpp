@@ -5,8 +5,8 @@
 #include <QSettings>
 
 PainelTheme::PainelTheme(QObject* parent) : QObject(parent) {
-    chosenAccent =
-        PainelAccents::fromRaw(QSettings().value(QStringLiteral("accent")).toString()).value_or(PainelAccents::standard);
+    chosenAccent = PainelAccents::fromRaw(QSettings().value(QStringLiteral("accent")).toString())
+                       .value_or(PainelAccents::standard);
     rebuild();
 }
 
@@ -25,6 +25,22 @@ void PainelTheme::setAccentChoice(PainelAccent accent) {
         return;
     chosenAccent = accent;
     rebuild();
+}
+
+void PainelTheme::setAccentName(const QString& name) {
+    if (const auto accent = PainelAccents::fromRaw(name))
+        setAccentChoice(*accent);
+}
+
+QStringList PainelTheme::accentNames() const {
+    QStringList names;
+    for (PainelAccent accent : PainelAccents::allCases)
+        names.append(PainelAccents::rawValue(accent));
+    return names;
+}
+
+QColor PainelTheme::accentColor(const QString& name) const {
+    return PainelAccents::color(PainelAccents::fromRaw(name).value_or(PainelAccents::standard));
 }
 
 void PainelTheme::setIncreasedContrast(bool on) {

@@ -3,6 +3,7 @@
 #include "Painel/PainelPalette.hpp"
 
 #include <QObject>
+#include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
 // The palette, fonts and motion setting in force, for every view. The one stateful singleton the
@@ -25,6 +26,8 @@ class PainelTheme : public QObject {
     Q_PROPERTY(QColor warn READ warn NOTIFY paletteChanged)
     Q_PROPERTY(QColor accent READ accent NOTIFY paletteChanged)
     Q_PROPERTY(QColor onAccent READ onAccent NOTIFY paletteChanged)
+    Q_PROPERTY(QString accentName READ accentName WRITE setAccentName NOTIFY paletteChanged)
+    Q_PROPERTY(QStringList accentNames READ accentNames CONSTANT)
     Q_PROPERTY(bool increasedContrast READ increasedContrast WRITE setIncreasedContrast NOTIFY paletteChanged)
     Q_PROPERTY(bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY reducedMotionChanged)
     Q_PROPERTY(QString monoFamily READ monoFamily CONSTANT)
@@ -55,6 +58,12 @@ public:
 
     PainelAccent accentChoice() const { return chosenAccent; }
     void setAccentChoice(PainelAccent accent);
+    QString accentName() const { return PainelAccents::rawValue(chosenAccent); }
+    // Unknown names are ignored.
+    void setAccentName(const QString& name);
+    QStringList accentNames() const;
+    // The colour of an accent by name, for swatches of the picker.
+    Q_INVOKABLE QColor accentColor(const QString& name) const;
     bool increasedContrast() const { return contrast; }
     void setIncreasedContrast(bool on);
     bool reducedMotion() const { return lessMotion; }

@@ -18,7 +18,8 @@ QtMessageHandler previous = nullptr;
 
 void collect(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     // The offscreen platform says this of every window; it is not the application's fault.
-    const bool platformNoise = message.contains(QLatin1String("does not support propagateSizeHints"));
+    const bool platformNoise = message.contains(QLatin1String("does not support propagateSizeHints")) ||
+                               message.contains(QLatin1String("does not support raise()"));
     if (!platformNoise && (type == QtWarningMsg || type == QtCriticalMsg || type == QtFatalMsg)) {
         QMutexLocker lock(&mutex);
         collected.append(message);
@@ -35,7 +36,9 @@ WarningCollector::WarningCollector() {
     previous = qInstallMessageHandler(collect);
 }
 
-WarningCollector::~WarningCollector() { qInstallMessageHandler(previous); }
+WarningCollector::~WarningCollector() {
+    qInstallMessageHandler(previous);
+}
 
 QStringList WarningCollector::take() {
     QMutexLocker lock(&mutex);
@@ -57,7 +60,7 @@ QString saveScreenshot(QQuickWindow& window, const QString& name) {
 }
 
 void useLanguage(const QString& localization) {
-    AppLanguage::install(*QCoreApplication::instance(), localization);
+    AppLanguages::install(*QCoreApplication::instance(), localization);
 }
 
 } // namespace QmlTestSupport

@@ -1,0 +1,206 @@
+#include "App/AppLanguage.hpp"
+#include "App/AppModel.hpp"
+#include "App/FullDiskAccess.hpp"
+#include "App/FullDiskAccessMonitor.hpp"
+#include "App/MainWindow.hpp"
+#include "App/Preferences.hpp"
+#include "Support/QmlTestSupport.hpp"
+
+#include <QQmlApplicationEngine>
+#include <QQmlComponent>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+QList<QQuickItem*> allItems(QQuickItem* root) {
+    QList<QQuickItem*> items{root};
+    for (int i = 0; i < items.size(); ++i)
+        items += items[i]->childItems();
+    return items;
+}
+
+// The first visible item whose `name` property holds `value`.
+QQuickItem* findBy(QQuickWindow& window, const char* name, const QString& value) {
+    for (QQuickItem* item : allItems(window.contentItem()))
+        if (item->property(name).toString() == value && item->isVisible())
+            return item;
+    return nullptr;
+}
+
+// Keys and rows are found by what they say, as a user finds them.
+QQuickItem* findItem(QQuickWindow& window, const QString& text) {
+    return findBy(window, "text", text);
+}
+
+void click(QQuickWindow& window, QQuickItem& item) {
+    const QPointF centre = item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
+    QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+    QmlTestSupport::settle();
+}
+
+class SettingsWindow : public ::testing::Test {
+protected:
+    void SetUp() override {
+        QSettings().remove(AppLanguages::overrideKey);
+        QSettings().remove(Preferences::onboardingDoneKey);
+        QSettings().remove(Preferences::accentKey);
+    }
+    void TearDown() override {
+        window.reset();
+        QmlTestSupport::useLanguage("en");
+        QSettings().remove(AppLanguages::overrideKey);
+        auto& monitor = FullDiskAccessMonitor::shared();
+        monitor.setProbes(FullDiskAccess::probes());
+        monitor.resetForTesting();
+        monitor.refresh();
+        const QStringList seen = warnings.take();
+        EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    }
+
+    QQuickWindow& load(const QByteArray& source = {}) {
+        QQmlComponent component(&engine);
+        if (source.isEmpty())
+            component.loadUrl(QUrl(QStringLiteral("qrc:/Zephrane/SettingsView.qml")));
+        else
+            component.setData(source, QUrl(QStringLiteral("qrc:/Zephrane/TestHost.qml")));
+        window.reset(qobject_cast<QQuickWindow*>(component.create()));
+        EXPECT_NE(window, nullptr) << component.errorString().toStdString();
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        QmlTestSupport::settle(150);
+        return *window;
+    }
+
+    QmlTestSupport::WarningCollector warnings;
+    QQmlEngine engine;
+    std::unique_ptr<QQuickWindow> window;
+};
+
+} // namespace
+
+TEST_F(SettingsWindow, LoadsInBothLanguagesWithEveryStateShown) {
+    for (const QString& language : {QStringLiteral("en"), QStringLiteral("pt-BR")}) {
+        QmlTestSupport::useLanguage(language);
+        QQuickWindow& view = load();
+        EXPECT_EQ(view.objectName(), "settings");
+        EXPECT_EQ(view.title(), qtTrId("settings.title"));
+        EXPECT_NE(findItem(view, qtTrId("settings.disk.granted")), nullptr);
+        EXPECT_EQ(findItem(view, qtTrId("settings.language.relaunchNotice")), nullptr);
+        QmlTestSupport::saveScreenshot(view, "settings-" + language);
+
+        // A language other than the one the process runs in: the notice and its restart key appear.
+        const bool runsInEnglish = AppLanguages::resolvedLocalization(AppLanguages::atLaunch()) == "en";
+        QQuickItem* other = findItem(
+            view, qtTrId(runsInEnglish ? "settings.language.portuguese" : "settings.language.english"));
+        ASSERT_NE(other, nullptr);
+        click(view, *other);
+        EXPECT_NE(findItem(view, qtTrId("settings.language.relaunchNotice")), nullptr);
+        EXPECT_NE(findItem(view, qtTrId("settings.language.relaunch")), nullptr);
+        QSettings().remove(AppLanguages::overrideKey);
+
+        // No grant: the lamp goes out and the key to the settings shows.
+        FullDiskAccessMonitor::shared().setProbes({QStringLiteral("/nonexistent/zephrane-probe")});
+        FullDiskAccessMonitor::shared().refresh();
+        QmlTestSupport::settle();
+        EXPECT_NE(findItem(view, qtTrId("settings.disk.off")), nullptr);
+        EXPECT_NE(findItem(view, qtTrId("fda.action.openSettings")), nullptr);
+        QmlTestSupport::saveScreenshot(view, "settings-notice-nogrant-" + language);
+        FullDiskAccessMonitor::shared().setProbes(FullDiskAccess::probes());
+        FullDiskAccessMonitor::shared().refresh();
+
+        const QStringList seen = warnings.take();
+        EXPECT_TRUE(seen.isEmpty()) << language.toStdString() << ": " << seen.join('\n').toStdString();
+        window.reset();
+    }
+}
+
+TEST_F(SettingsWindow, TheAccentRecoloursAtOnceAndIsKept) {
+    QQuickWindow& view = load();
+    QQuickItem* blue = findBy(view, "modelData", "blue");
+    ASSERT_NE(blue, nullptr);
+    click(view, *blue);
+    EXPECT_EQ(Preferences().accent(), "blue");
+    EXPECT_EQ(QSettings().value("accent").toString(), "blue");
+    QmlTestSupport::saveScreenshot(view, "settings-accent-blue");
+    QQuickItem* orange = findBy(view, "modelData", "orange");
+    ASSERT_NE(orange, nullptr);
+    click(view, *orange);
+    EXPECT_EQ(Preferences().accent(), "orange");
+}
+
+TEST_F(SettingsWindow, TheWelcomeKeyStartsTheOnboardingOverAndAsksForTheMainWindow) {
+    Preferences().setOnboardingDone(true);
+    QQuickWindow& view = load();
+    QSignalSpy asked(&view, SIGNAL(welcomeRequested()));
+    QQuickItem* welcome = findItem(view, qtTrId("settings.about.welcome"));
+    ASSERT_NE(welcome, nullptr);
+    // The key sits at the foot of the window; make sure it is in view before clicking.
+    view.resize(view.width(), 1000);
+    QmlTestSupport::settle();
+    click(view, *welcome);
+    EXPECT_FALSE(Preferences().onboardingDone());
+    EXPECT_EQ(asked.count(), 1);
+}
+
+TEST_F(SettingsWindow, TheDestinationChoiceIsStored) {
+    QQuickWindow& view = load();
+    QQuickItem* permanent = findItem(view, qtTrId("settings.cleaning.delete"));
+    ASSERT_NE(permanent, nullptr);
+    click(view, *permanent);
+    EXPECT_EQ(Preferences().cleanDestination(), "delete");
+    click(view, *findItem(view, qtTrId("settings.cleaning.trash")));
+    EXPECT_EQ(Preferences().cleanDestination(), "trash");
+}
+
+TEST_F(SettingsWindow, TheBannerShowsWhileTheGrantIsMissing) {
+    FullDiskAccessMonitor::shared().setProbes({QStringLiteral("/nonexistent/zephrane-probe")});
+    FullDiskAccessMonitor::shared().resetForTesting(true);
+    FullDiskAccessMonitor::shared().refresh();
+    for (const QString& language : {QStringLiteral("en"), QStringLiteral("pt-BR")}) {
+        QmlTestSupport::useLanguage(language);
+        QQuickWindow& host = load("import QtQuick\nimport Zephrane\n"
+                                  "Window { width: 760; height: 110; color: PainelTheme.bg\n"
+                                  "  FullDiskAccessBanner { x: 16; y: 16; width: parent.width - 32 } }");
+        EXPECT_TRUE(FullDiskAccessMonitor::shared().watching());
+        EXPECT_NE(findItem(host, qtTrId("fda.banner.title")), nullptr);
+        QmlTestSupport::saveScreenshot(host, "fda-banner-" + language);
+        window.reset();
+        EXPECT_FALSE(FullDiskAccessMonitor::shared().watching()) << "the banner gone, nobody watches";
+    }
+}
+
+TEST(ShellSettings, ControlCommaAndTheColumnKeyOpenTheSettingsWindow) {
+    QmlTestSupport::WarningCollector warnings;
+    AppModel model;
+    QQmlApplicationEngine engine;
+    QQuickWindow* main = MainWindow::load(engine, model);
+    ASSERT_NE(main, nullptr);
+    main->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(main));
+    auto* settings = main->findChild<QQuickWindow*>("settings");
+    ASSERT_NE(settings, nullptr);
+    EXPECT_FALSE(settings->isVisible());
+    QTest::keyClick(main, Qt::Key_Comma, Qt::ControlModifier);
+    QmlTestSupport::settle();
+    EXPECT_TRUE(settings->isVisible());
+    settings->close();
+    QmlTestSupport::settle();
+    EXPECT_FALSE(settings->isVisible());
+
+    QQuickItem* key = findBy(*main, "objectName", "settingsKey");
+    ASSERT_NE(key, nullptr);
+    click(*main, *key);
+    EXPECT_TRUE(settings->isVisible());
+    QmlTestSupport::saveScreenshot(*main, "shell-with-settings-key");
+    settings->close();
+    const QStringList seen = warnings.take();
+    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+}
