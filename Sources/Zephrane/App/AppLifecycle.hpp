@@ -4,8 +4,6 @@
 // the program must never linger invisible.
 namespace AppLifecycle {
 
-constexpr bool quitsOnLastWindowClosed(bool agentOn, bool trayAvailable) {
-    return !(agentOn && trayAvailable);
-}
+constexpr bool quitsOnLastWindowClosed(bool agentOn, bool trayAvailable) { return !(agentOn && trayAvailable); }
 
 } // namespace AppLifecycle

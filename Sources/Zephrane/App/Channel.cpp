@@ -29,23 +29,11 @@ std::optional<Channel> fromRaw(int raw) {
     return allCases[static_cast<std::size_t>(raw)];
 }
 
-const char* shortKey(Channel channel) {
-    return keys[static_cast<std::size_t>(rawValue(channel))].shortKey;
-}
-const char* titleKey(Channel channel) {
-    return keys[static_cast<std::size_t>(rawValue(channel))].titleKey;
-}
-QString keyEquivalent(Channel channel) {
-    return QString::number(rawValue(channel));
-}
-QString title(Channel channel) {
-    return qtTrId(titleKey(channel));
-}
-QString shortLabel(Channel channel) {
-    return qtTrId(shortKey(channel));
-}
-QString accessibilityName(Channel channel) {
-    return qtTrId("channel.a11y.name").arg(title(channel));
-}
+const char* shortKey(Channel channel) { return keys[static_cast<std::size_t>(rawValue(channel))].shortKey; }
+const char* titleKey(Channel channel) { return keys[static_cast<std::size_t>(rawValue(channel))].titleKey; }
+QString keyEquivalent(Channel channel) { return QString::number(rawValue(channel)); }
+QString title(Channel channel) { return qtTrId(titleKey(channel)); }
+QString shortLabel(Channel channel) { return qtTrId(shortKey(channel)); }
+QString accessibilityName(Channel channel) { return qtTrId("channel.a11y.name").arg(title(channel)); }
 
 } // namespace Channels

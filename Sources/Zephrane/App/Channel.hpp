@@ -11,17 +11,15 @@ enum class Channel { home = 0, junk, lens, large, apps, leftovers, trash, update
 
 namespace Channels {
 
-inline constexpr std::array<Channel, 8> allCases{Channel::home,  Channel::junk,   Channel::lens,
-                                                 Channel::large, Channel::apps,   Channel::leftovers,
+inline constexpr std::array<Channel, 8> allCases{Channel::home,  Channel::junk,      Channel::lens,
+                                                 Channel::large, Channel::apps,      Channel::leftovers,
                                                  Channel::trash, Channel::updates};
 
-constexpr int rawValue(Channel channel) {
-    return static_cast<int>(channel);
-}
+constexpr int rawValue(Channel channel) { return static_cast<int>(channel); }
 std::optional<Channel> fromRaw(int raw);
 
-const char* shortKey(Channel channel);  // "channel.junk.short"
-const char* titleKey(Channel channel);  // "channel.junk.title"
+const char* shortKey(Channel channel); // "channel.junk.short"
+const char* titleKey(Channel channel); // "channel.junk.title"
 QString keyEquivalent(Channel channel); // "1"
 QString title(Channel channel);
 QString shortLabel(Channel channel);

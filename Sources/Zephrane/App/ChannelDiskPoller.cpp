@@ -17,9 +17,7 @@ ChannelDiskPoller::ChannelDiskPoller(QObject* parent)
     QTimer::singleShot(0, this, &ChannelDiskPoller::poll);
 }
 
-void ChannelDiskPoller::setReader(Reader replacement) {
-    reader = std::move(replacement);
-}
+void ChannelDiskPoller::setReader(Reader replacement) { reader = std::move(replacement); }
 
 double ChannelDiskPoller::usedFraction() const {
     if (!current || current->total <= 0)

@@ -14,13 +14,9 @@ void GoCommands::setModel(AppModel* model) {
     emit checkedChanged();
 }
 
-QString GoCommands::title() const {
-    return qtTrId("menu.go");
-}
+QString GoCommands::title() const { return qtTrId("menu.go"); }
 
-int GoCommands::count() const {
-    return static_cast<int>(Channels::allCases.size());
-}
+int GoCommands::count() const { return static_cast<int>(Channels::allCases.size()); }
 
 QString GoCommands::itemTitle(int raw) const {
     auto channel = Channels::fromRaw(raw);
@@ -32,9 +28,7 @@ QString GoCommands::shortcut(int raw) const {
     return channel ? QStringLiteral("Ctrl+") + Channels::keyEquivalent(*channel) : QString();
 }
 
-bool GoCommands::isChecked(int raw) const {
-    return appModel && appModel->selectionRaw() == raw;
-}
+bool GoCommands::isChecked(int raw) const { return appModel && appModel->selectionRaw() == raw; }
 
 void GoCommands::choose(int raw) {
     if (appModel)

@@ -5,8 +5,8 @@
 #include <QSettings>
 
 PainelTheme::PainelTheme(QObject* parent) : QObject(parent) {
-    chosenAccent = PainelAccents::fromRaw(QSettings().value(QStringLiteral("accent")).toString())
-                       .value_or(PainelAccents::standard);
+    chosenAccent =
+        PainelAccents::fromRaw(QSettings().value(QStringLiteral("accent")).toString()).value_or(PainelAccents::standard);
     rebuild();
 }
 
