@@ -36,9 +36,7 @@ WarningCollector::WarningCollector() {
     previous = qInstallMessageHandler(collect);
 }
 
-WarningCollector::~WarningCollector() {
-    qInstallMessageHandler(previous);
-}
+WarningCollector::~WarningCollector() { qInstallMessageHandler(previous); }
 
 QStringList WarningCollector::take() {
     QMutexLocker lock(&mutex);
