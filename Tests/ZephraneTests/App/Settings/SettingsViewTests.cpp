@@ -179,6 +179,7 @@ TEST_F(SettingsWindow, TheBannerShowsWhileTheGrantIsMissing) {
 
 TEST(ShellSettings, ControlCommaAndTheColumnKeyOpenTheSettingsWindow) {
     QmlTestSupport::WarningCollector warnings;
+    QmlTestSupport::useLanguage("pt-BR");
     AppModel model;
     QQmlApplicationEngine engine;
     QQuickWindow* main = MainWindow::load(engine, model);
@@ -199,8 +200,9 @@ TEST(ShellSettings, ControlCommaAndTheColumnKeyOpenTheSettingsWindow) {
     ASSERT_NE(key, nullptr);
     click(*main, *key);
     EXPECT_TRUE(settings->isVisible());
-    QmlTestSupport::saveScreenshot(*main, "shell-with-settings-key");
+    QmlTestSupport::saveScreenshot(*main, "shell-with-settings-key-pt-BR");
     settings->close();
+    QmlTestSupport::useLanguage("en");
     const QStringList seen = warnings.take();
     EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
 }
