@@ -5,8 +5,10 @@
 #include <QDesktopServices>
 #include <QJSEngine>
 
+// Starts from what the probes say now, so that a grant held since before launch is not announced
+// as news when the first view looks.
 FullDiskAccessMonitor::FullDiskAccessMonitor(QObject* parent)
-    : QObject(parent), probeList(FullDiskAccess::probes()) {
+    : QObject(parent), probeList(FullDiskAccess::probes()), granted(FullDiskAccess::isGranted(probeList)) {
     timer.setInterval(intervalMilliseconds);
     connect(&timer, &QTimer::timeout, this, &FullDiskAccessMonitor::poll);
 }
