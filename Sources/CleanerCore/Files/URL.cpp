@@ -131,10 +131,23 @@ URL URL::deletingLastPathComponent() const {
     return url;
 }
 
+bool URL::isInside(const URL& container) const {
+    return pathIsInside(standardizedPath(path()), standardizedPath(container.path()));
+}
+
 bool URL::operator==(const URL& other) const {
     if (fileURL != other.fileURL)
         return false;
     return fileURL ? standardizedPath(text) == standardizedPath(other.text) : text == other.text;
+}
+
+bool pathIsInside(std::string_view path, std::string_view container) {
+    if (path == container || container == "/")
+        return true;
+    if (!path.starts_with(container))
+        return false;
+    // "/a/bc" is not inside "/a/b": the container must end at a separator.
+    return container.ends_with('/') || (path.size() > container.size() && path[container.size()] == '/');
 }
 
 std::string standardizedPath(std::string_view path) {

@@ -33,6 +33,9 @@ public:
     std::string pathExtension() const;
     URL appending(std::string_view component) const;
     URL deletingLastPathComponent() const;
+    // Whether this location lies within `container` or is it, by standardized paths; everything is
+    // inside "/".
+    bool isInside(const URL& container) const;
 
     bool operator==(const URL& other) const;
 
@@ -43,6 +46,8 @@ private:
 
 // Lexical clean-up of a path: "." and ".." resolved, "//" collapsed, trailing "/" dropped.
 std::string standardizedPath(std::string_view path);
+// The same test on paths that are already standardized, for callers that test many of them.
+bool pathIsInside(std::string_view path, std::string_view container);
 // RFC 3986 percent-encoding of a path: unreserved characters and "/" stay, every other byte is %XX.
 std::string percentEncodedPath(std::string_view path);
 // The inverse; malformed escapes are kept as they stand.
