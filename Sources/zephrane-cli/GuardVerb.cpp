@@ -1,5 +1,6 @@
 #include "Arguments.hpp"
 #include "Cli.hpp"
+#include "MessageLocale.hpp"
 
 #include "CleanerCore/Removal/SafetyGuard.hpp"
 
@@ -9,23 +10,6 @@
 #include <ostream>
 
 namespace ZephraneCli {
-namespace {
-
-// The language of messages as the environment asks for it; English for the plain C locale.
-std::string messageLocale() {
-    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        const char* value = std::getenv(name);
-        if (!value || !*value)
-            continue;
-        const std::string locale(value);
-        if (locale == "C" || locale.starts_with("C.") || locale == "POSIX")
-            return "en";
-        return locale;
-    }
-    return "en";
-}
-
-} // namespace
 
 // What the removal engine would do with each path, without removing anything: "allowed" and the
 // path removal would act on, or "refused" and why. Relative paths are taken from the current folder.

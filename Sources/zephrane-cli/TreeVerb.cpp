@@ -1,8 +1,10 @@
 #include "Arguments.hpp"
 #include "Cli.hpp"
 #include "DiskTreeJson.hpp"
+#include "MessageLocale.hpp"
 
 #include "CleanerCore/DiskTree/DiskTreeScanner.hpp"
+#include "CleanerCore/Display/ByteDisplay.hpp"
 #include "CleanerCore/Platform/BulkListing.hpp"
 #include "CleanerCore/Platform/FileDescriptor.hpp"
 
@@ -22,19 +24,16 @@ using CleanerCore::DiskNode;
 // Levels below the root that the text report shows.
 constexpr int textLevels = 2;
 
-std::string sizeText(std::int64_t bytes) {
-    return std::to_string(bytes) + " B";
-}
-
-void printText(const DiskNode& node, int level, std::ostream& out) {
-    out << std::string(static_cast<std::size_t>(level) * 2, ' ') << sizeText(node.size()) << "  "
+void printText(const DiskNode& node, int level, const std::string& locale, std::ostream& out) {
+    out << std::string(static_cast<std::size_t>(level) * 2, ' ')
+        << CleanerCore::ByteDisplay(node.size(), locale).formatted << "  "
         << (level == 0 ? node.path() : std::string(node.name()));
     if (node.isDirectory())
         out << "/  (" << node.itemCount() << (node.itemCount() == 1 ? " item)" : " items)");
     out << '\n';
     if (level < textLevels)
         for (const DiskNode::Pointer& child : node.children())
-            printText(*child, level + 1, out);
+            printText(*child, level + 1, locale, out);
 }
 
 // One line on a terminal, rewritten in place; several scan threads may report at once.
@@ -86,7 +85,7 @@ int runTree(const std::vector<std::string>& words, std::ostream& out, std::ostre
     if (arguments.has("json"))
         DiskTreeJson(out).write(*tree);
     else
-        printText(*tree, 0, out);
+        printText(*tree, 0, messageLocale(), out);
     return 0;
 }
 

@@ -14,7 +14,8 @@ const std::vector<Verb>& verbs() {
          runSize},
         {"guard", "guard PATH...", "whether removal would be allowed for each path, and what it would act on",
          runGuard},
-        {"junk", "junk [--json]", "what each junk rule finds in the home folder, largest items first", runJunk},
+        {"junk", "junk [--json]", "what each junk rule finds in the home folder, largest items first",
+         runJunk},
         {"tree", "tree PATH [--json] [--min-node-size BYTES] [--keep N]",
          "what takes up the space below PATH, folder by folder, small items summed up", runTree},
     };
