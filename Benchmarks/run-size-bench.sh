@@ -35,16 +35,4 @@ for j in 1 2 4 8; do args+=(-n "floor-walk -j$j" "$out/floor-walk -j$j $tree"); 
 
 hyperfine -N --warmup 1 --runs "$runs" --export-json "$out/size-bench.json" "${args[@]}" >&2
 
-python3 - "$out/size-bench.json" <<'PY'
-import json, statistics, sys
-results = json.load(open(sys.argv[1]))["results"]
-median = {r["command"]: statistics.median(r["times"]) for r in results}
-floors = {k: v for k, v in median.items() if k.startswith("floor-walk")}
-best = min(floors, key=floors.get)
-du = median["du -s"]
-print(f"| command | median s | x du -s | x {best} (best floor) |")
-print("|---|---:|---:|---:|")
-for r in results:
-    m = median[r["command"]]
-    print(f"| {r['command']} | {m:.2f} | {m / du:.2f} | {m / floors[best]:.2f} |")
-PY
+python3 "$root/Benchmarks/summarize-size-bench.py" "$out/size-bench.json"
