@@ -255,5 +255,21 @@
         <source>Full disk access is still off</source>
         <translation>Full disk access is still off</translation>
     </message>
+    <message id="painel.spokenValue">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="painel.percent">
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message id="painel.hold.a11y">
+        <source>Hold to confirm, or press to confirm in a dialog</source>
+        <translation>Hold to confirm, or press to confirm in a dialog</translation>
+    </message>
+    <message id="painel.confirm.cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
 </context>
 </TS>

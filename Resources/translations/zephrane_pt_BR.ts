@@ -255,5 +255,21 @@
         <source>Full disk access is still off</source>
         <translation>O acesso total ao disco continua desativado</translation>
     </message>
+    <message id="painel.spokenValue">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="painel.percent">
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message id="painel.hold.a11y">
+        <source>Hold to confirm, or press to confirm in a dialog</source>
+        <translation>Mantenha pressionado para confirmar, ou pressione para confirmar numa caixa de diálogo</translation>
+    </message>
+    <message id="painel.confirm.cancel">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 </TS>

@@ -1,4 +1,5 @@
 #include "App/AppLanguage.hpp"
+#include "Painel/PainelDesktopSettings.hpp"
 #include "Painel/PainelTheme.hpp"
 #include "TempTree.hpp"
 
@@ -20,6 +21,8 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationVersion(QStringLiteral(ZEPHRANE_VERSION));
     AppLanguages::install(app, AppLanguages::rawValue(AppLanguage::english));
     PainelTheme::installFonts();
+    // The look under test must not depend on the desktop the tests happen to run on.
+    PainelDesktopSettings::shared().overrideWith({.reducedMotion = false, .increasedContrast = false});
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -5,12 +5,14 @@ import Zephrane
 Text {
     id: root
 
-    enum Tone { Normal, Muted, Faint, Accent }
+    enum Tone { Normal, Muted, Faint, Accent, Ok, Warn }
     property int tone: MonoLabel.Muted
 
     color: tone === MonoLabel.Accent ? PainelTheme.accent
          : tone === MonoLabel.Faint ? PainelTheme.faint
-         : tone === MonoLabel.Normal ? PainelTheme.text : PainelTheme.muted
+         : tone === MonoLabel.Normal ? PainelTheme.text
+         : tone === MonoLabel.Ok ? PainelTheme.ok
+         : tone === MonoLabel.Warn ? PainelTheme.warn : PainelTheme.muted
     font.family: PainelTheme.monoFamily
     font.pixelSize: 10
     font.letterSpacing: 1.2

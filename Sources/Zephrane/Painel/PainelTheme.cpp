@@ -1,13 +1,40 @@
 #include "Painel/PainelTheme.hpp"
 
+#include "Painel/PainelAnimation.hpp"
+#include "Painel/PainelButtonSize.hpp"
+#include "Painel/PainelDesktopSettings.hpp"
+
 #include <QDirIterator>
 #include <QFontDatabase>
+#include <QList>
 #include <QSettings>
+
+namespace {
+
+const QString accentKey = QStringLiteral("accent");
+
+// Each QML engine makes its own theme; a change of accent reaches all of them.
+QList<PainelTheme*>& liveThemes() {
+    static QList<PainelTheme*> themes;
+    return themes;
+}
+
+} // namespace
 
 PainelTheme::PainelTheme(QObject* parent) : QObject(parent) {
     chosenAccent =
-        PainelAccents::fromRaw(QSettings().value(QStringLiteral("accent")).toString()).value_or(PainelAccents::standard);
+        PainelAccents::fromRaw(QSettings().value(accentKey).toString()).value_or(PainelAccents::standard);
+    liveThemes().append(this);
+    connect(&PainelDesktopSettings::shared(), &PainelDesktopSettings::changed, this,
+            &PainelTheme::followDesktop);
+    const PainelDesktopPreferences desktop = PainelDesktopSettings::shared().preferences();
+    contrast = desktop.increasedContrast.value_or(false);
+    lessMotion = desktop.reducedMotion.value_or(false);
     rebuild();
+}
+
+PainelTheme::~PainelTheme() {
+    liveThemes().removeAll(this);
 }
 
 void PainelTheme::installFonts() {
@@ -21,10 +48,9 @@ void PainelTheme::installFonts() {
 }
 
 void PainelTheme::setAccentChoice(PainelAccent accent) {
-    if (accent == chosenAccent)
-        return;
-    chosenAccent = accent;
-    rebuild();
+    QSettings().setValue(accentKey, PainelAccents::rawValue(accent));
+    for (PainelTheme* theme : liveThemes())
+        theme->applyAccent(accent);
 }
 
 void PainelTheme::setAccentName(const QString& name) {
@@ -43,6 +69,13 @@ QColor PainelTheme::accentColor(const QString& name) const {
     return PainelAccents::color(PainelAccents::fromRaw(name).value_or(PainelAccents::standard));
 }
 
+void PainelTheme::applyAccent(PainelAccent accent) {
+    if (accent == chosenAccent)
+        return;
+    chosenAccent = accent;
+    rebuild();
+}
+
 void PainelTheme::setIncreasedContrast(bool on) {
     if (on == contrast)
         return;
@@ -55,6 +88,52 @@ void PainelTheme::setReducedMotion(bool on) {
         return;
     lessMotion = on;
     emit reducedMotionChanged();
+}
+
+void PainelTheme::followDesktop() {
+    const PainelDesktopPreferences desktop = PainelDesktopSettings::shared().preferences();
+    setIncreasedContrast(desktop.increasedContrast.value_or(false));
+    setReducedMotion(desktop.reducedMotion.value_or(false));
+}
+
+int PainelTheme::duration(int milliseconds) const {
+    return PainelAnimation::duration(milliseconds, lessMotion);
+}
+
+int PainelTheme::keyHeight(int size) const {
+    switch (PainelButtonSize::Value(size)) {
+    case PainelButtonSize::Small:
+        return 26;
+    case PainelButtonSize::Large:
+        return 44;
+    case PainelButtonSize::Regular:
+        break;
+    }
+    return 34;
+}
+
+int PainelTheme::keyFontSize(int size) const {
+    switch (PainelButtonSize::Value(size)) {
+    case PainelButtonSize::Small:
+        return 10;
+    case PainelButtonSize::Large:
+        return 13;
+    case PainelButtonSize::Regular:
+        break;
+    }
+    return 11;
+}
+
+int PainelTheme::keyPadding(int size) const {
+    switch (PainelButtonSize::Value(size)) {
+    case PainelButtonSize::Small:
+        return 10;
+    case PainelButtonSize::Large:
+        return 22;
+    case PainelButtonSize::Regular:
+        break;
+    }
+    return 16;
 }
 
 void PainelTheme::rebuild() {

@@ -7,7 +7,8 @@
 #include <QtQml/qqmlregistration.h>
 
 // The palette, fonts and motion setting in force, for every view. The one stateful singleton the
-// views may read: it follows the stored accent and the desktop's contrast setting.
+// views may read: it follows the stored accent and the desktop's contrast and motion settings, and
+// holds the metrics of the keys so that every key of every screen has the same shape.
 class PainelTheme : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -36,6 +37,7 @@ class PainelTheme : public QObject {
 
 public:
     explicit PainelTheme(QObject* parent = nullptr);
+    ~PainelTheme() override;
 
     // Registers the bundled fonts once per process; call before the first window loads.
     static void installFonts();
@@ -57,6 +59,7 @@ public:
     QColor onAccent() const { return colors.onAccent; }
 
     PainelAccent accentChoice() const { return chosenAccent; }
+    // Stores the choice under "accent" and recolours every theme of the process at once.
     void setAccentChoice(PainelAccent accent);
     QString accentName() const { return PainelAccents::rawValue(chosenAccent); }
     // Unknown names are ignored.
@@ -69,6 +72,14 @@ public:
     bool reducedMotion() const { return lessMotion; }
     void setReducedMotion(bool on);
 
+    // How long an effect of `milliseconds` runs: 0 under reduced motion.
+    Q_INVOKABLE int duration(int milliseconds) const;
+
+    // Metrics of a key for a PainelButtonSize value.
+    Q_INVOKABLE int keyHeight(int size) const;
+    Q_INVOKABLE int keyFontSize(int size) const;
+    Q_INVOKABLE int keyPadding(int size) const;
+
     QString monoFamily() const { return QStringLiteral("IBM Plex Mono"); }
     QString sansFamily() const { return QStringLiteral("Inter"); }
     QString dotFamily() const { return QStringLiteral("Doto"); }
@@ -79,6 +90,8 @@ signals:
 
 private:
     void rebuild();
+    void applyAccent(PainelAccent accent);
+    void followDesktop();
 
     PainelAccent chosenAccent = PainelAccents::standard;
     bool contrast = false;

@@ -1,0 +1,172 @@
+#include "Painel/HoldToConfirmController.hpp"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// A key with a clock the test moves by hand, and a count of how often it acted.
+class HoldToConfirm : public ::testing::Test {
+protected:
+    void SetUp() override {
+        key.setClock([this] { return now; });
+        key.setHoldDuration(1.5);
+        QObject::connect(&key, &HoldToConfirmController::action, [this] { ++actions; });
+    }
+    void hold(std::chrono::milliseconds lasting) {
+        key.press();
+        now += lasting;
+        key.tick();
+    }
+
+    std::chrono::steady_clock::time_point now{};
+    HoldToConfirmController key;
+    int actions = 0;
+};
+
+} // namespace
+
+TEST_F(HoldToConfirm, FiresOnlyOnceTheWholeDurationHasPassed) {
+    hold(750ms);
+    EXPECT_DOUBLE_EQ(key.progress(), 0.5);
+    EXPECT_EQ(actions, 0);
+    now += 749ms;
+    key.tick();
+    EXPECT_EQ(actions, 0);
+    EXPECT_FALSE(key.fired());
+    now += 1ms;
+    key.tick();
+    EXPECT_EQ(actions, 1);
+    EXPECT_TRUE(key.fired());
+    EXPECT_DOUBLE_EQ(key.progress(), 1);
+    // Holding on after it fired does not fire again, and letting go is not giving up.
+    now += 2s;
+    key.tick();
+    key.release();
+    EXPECT_EQ(actions, 1);
+    EXPECT_FALSE(key.gaveUp());
+    EXPECT_FALSE(key.holding());
+    EXPECT_DOUBLE_EQ(key.progress(), 0);
+}
+
+TEST_F(HoldToConfirm, ReleaseJustShortRunsNothingAndIsNotGivingUp) {
+    hold(1499ms);
+    key.release();
+    EXPECT_EQ(actions, 0);
+    EXPECT_FALSE(key.fired());
+    EXPECT_FALSE(key.gaveUp()) << "past 0.9 of the duration the user did not give up";
+    EXPECT_DOUBLE_EQ(key.progress(), 0);
+}
+
+TEST_F(HoldToConfirm, EarlyReleaseIsMarkedGivenUpUntilTheNextPress) {
+    hold(1349ms);
+    key.release();
+    EXPECT_TRUE(key.gaveUp());
+    EXPECT_EQ(actions, 0);
+    key.press();
+    EXPECT_FALSE(key.gaveUp());
+    EXPECT_DOUBLE_EQ(key.progress(), 0);
+    now += 1350ms;
+    key.release();
+    EXPECT_FALSE(key.gaveUp()) << "exactly 0.9 of the duration is not short of it";
+}
+
+TEST_F(HoldToConfirm, AReleaseAfterTheDurationFiresEvenWithoutATickInBetween) {
+    key.press();
+    now += 1600ms;
+    key.release();
+    EXPECT_EQ(actions, 1);
+    EXPECT_FALSE(key.gaveUp());
+}
+
+TEST_F(HoldToConfirm, AnotherPressStartsTheTimeAgain) {
+    hold(1400ms);
+    key.release();
+    hold(200ms);
+    EXPECT_NEAR(key.progress(), 200.0 / 1500.0, 1e-9);
+    now += 1299ms;
+    key.tick();
+    EXPECT_EQ(actions, 0);
+}
+
+TEST_F(HoldToConfirm, ReducedMotionKeepsTheWholeHoldAndOnlyDropsTheFlash) {
+    key.setReducedMotion(true);
+    hold(1499ms);
+    EXPECT_EQ(actions, 0);
+    now += 1ms;
+    key.tick();
+    EXPECT_EQ(actions, 1);
+    EXPECT_FALSE(key.flash());
+
+    key.setReducedMotion(false);
+    key.release();
+    hold(1500ms);
+    EXPECT_EQ(actions, 2);
+    EXPECT_TRUE(key.flash());
+    key.endFlash();
+    EXPECT_FALSE(key.flash());
+}
+
+TEST_F(HoldToConfirm, ADisabledKeyNeitherFillsNorFires) {
+    key.setEnabled(false);
+    hold(3s);
+    EXPECT_FALSE(key.holding());
+    EXPECT_DOUBLE_EQ(key.progress(), 0);
+    key.release();
+    EXPECT_EQ(actions, 0);
+    EXPECT_FALSE(key.gaveUp());
+    EXPECT_FALSE(key.requestConfirmation()) << "the key press is left to the parents";
+    EXPECT_FALSE(key.confirming());
+    key.confirm();
+    EXPECT_EQ(actions, 0);
+}
+
+TEST_F(HoldToConfirm, DisablingUnderTheFingerDropsTheHold) {
+    hold(1s);
+    key.setEnabled(false);
+    EXPECT_DOUBLE_EQ(key.progress(), 0);
+    now += 1s;
+    key.tick();
+    key.setEnabled(true);
+    key.tick();
+    key.release();
+    EXPECT_EQ(actions, 0);
+}
+
+TEST_F(HoldToConfirm, TheKeyPressAsksInsteadOfHolding) {
+    QSignalSpy state(&key, &HoldToConfirmController::stateChanged);
+    EXPECT_TRUE(key.requestConfirmation());
+    EXPECT_TRUE(key.confirming());
+    EXPECT_FALSE(key.holding());
+    EXPECT_EQ(actions, 0);
+    EXPECT_GE(state.count(), 1);
+
+    key.cancelConfirmation();
+    EXPECT_FALSE(key.confirming());
+    key.confirm();
+    EXPECT_EQ(actions, 0) << "confirming a dialog that is gone does nothing";
+
+    key.requestConfirmation();
+    key.confirm();
+    EXPECT_EQ(actions, 1);
+    EXPECT_TRUE(key.fired());
+    EXPECT_FALSE(key.confirming());
+
+    key.requestConfirmation();
+    key.setEnabled(false);
+    EXPECT_FALSE(key.confirming()) << "a key that goes dead closes its question";
+}
+
+TEST_F(HoldToConfirm, ProgressIsReportedWhileItChanges) {
+    QSignalSpy progress(&key, &HoldToConfirmController::progressChanged);
+    hold(300ms);
+    now += 300ms;
+    key.tick();
+    EXPECT_NEAR(key.progress(), 0.4, 1e-9);
+    EXPECT_EQ(progress.count(), 2);
+    key.release();
+    EXPECT_EQ(progress.count(), 3);
+}

@@ -1,0 +1,113 @@
+#include "Painel/PainelDesktopSettings.hpp"
+#include "Painel/PainelPalette.hpp"
+#include "Painel/PainelTheme.hpp"
+
+#include <QDBusVariant>
+#include <QSettings>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QColor hex(const char* text) {
+    return QColor(QLatin1String(text));
+}
+
+} // namespace
+
+TEST(PainelPalette, IncreasedContrastDarkensUnlitCellsAndLightensOutlines) {
+    const PainelPalette standard = PainelPalette::make(PainelAccent::orange, false);
+    const PainelPalette contrast = PainelPalette::make(PainelAccent::orange, true);
+    EXPECT_EQ(standard.ledOff, hex("#2A2A2D"));
+    EXPECT_EQ(contrast.ledOff, hex("#1A1A1C"));
+    EXPECT_LT(contrast.ledOff.lightness(), standard.ledOff.lightness());
+    EXPECT_EQ(standard.border, hex("#2C2C2F"));
+    EXPECT_EQ(contrast.border, hex("#6E6E74"));
+    EXPECT_GT(contrast.border.lightness(), standard.border.lightness());
+    EXPECT_EQ(contrast.divider, hex("#48484D"));
+    EXPECT_EQ(contrast.muted, hex("#C8C8CC"));
+    EXPECT_EQ(contrast.faint, hex("#B4B4B9"));
+    // What contrast leaves alone stays as it is.
+    for (auto field : {&PainelPalette::bg, &PainelPalette::deep, &PainelPalette::panel,
+                       &PainelPalette::raised, &PainelPalette::text, &PainelPalette::ok, &PainelPalette::warn,
+                       &PainelPalette::accent, &PainelPalette::onAccent})
+        EXPECT_EQ(standard.*field, contrast.*field);
+    EXPECT_EQ(standard.bg, hex("#121213"));
+    EXPECT_EQ(standard.onAccent, hex("#121213"));
+}
+
+TEST(PainelPalette, TheAccentComesFromTheChoice) {
+    EXPECT_EQ(PainelPalette::make(PainelAccent::orange, false).accent, hex("#FF6A1A"));
+    EXPECT_EQ(PainelPalette::make(PainelAccent::lime, true).accent, hex("#D4FF3A"));
+    EXPECT_EQ(PainelPalette::make(PainelAccent::blue, false).accent, hex("#3AA0FF"));
+    for (PainelAccent accent : PainelAccents::allCases)
+        EXPECT_EQ(PainelAccents::fromRaw(PainelAccents::rawValue(accent)), accent);
+    EXPECT_EQ(PainelAccents::fromRaw("purple"), std::nullopt);
+}
+
+TEST(PainelTheme, AnAccentPickedInOneThemeIsStoredAndRecoloursEveryTheme) {
+    QSettings().remove("accent");
+    PainelTheme picker;
+    PainelTheme elsewhere;
+    EXPECT_EQ(picker.accentName(), "orange");
+    QSignalSpy recoloured(&elsewhere, &PainelTheme::paletteChanged);
+
+    picker.setAccentName("blue");
+    EXPECT_EQ(QSettings().value("accent").toString(), "blue");
+    EXPECT_EQ(elsewhere.accent(), hex("#3AA0FF"));
+    EXPECT_EQ(recoloured.count(), 1);
+
+    picker.setAccentName("no such colour");
+    EXPECT_EQ(QSettings().value("accent").toString(), "blue");
+    EXPECT_EQ(PainelTheme().accentChoice(), PainelAccent::blue) << "a new theme reads the stored choice";
+
+    QSettings().setValue("accent", "garbage");
+    EXPECT_EQ(PainelTheme().accentChoice(), PainelAccent::orange);
+    QSettings().remove("accent");
+}
+
+TEST(PainelTheme, NothingLastsUnderReducedMotion) {
+    PainelTheme theme;
+    theme.setReducedMotion(false);
+    EXPECT_EQ(theme.duration(350), 350);
+    theme.setReducedMotion(true);
+    EXPECT_EQ(theme.duration(350), 0);
+}
+
+TEST(PainelDesktopSettings, ReadsTheDesktopsMotionAndContrastKeys) {
+    const QString gnome = "org.gnome.desktop.interface";
+    const QString a11y = "org.gnome.desktop.a11y.interface";
+    const QString appearance = "org.freedesktop.appearance";
+    PainelDesktopPreferences seen;
+    seen = PainelDesktopSettings::interpret(gnome, "enable-animations", false, seen);
+    EXPECT_EQ(seen.reducedMotion, true);
+    EXPECT_EQ(seen.increasedContrast, std::nullopt);
+    // Older portals wrap the value in a second variant.
+    const QVariant wrapped = QVariant::fromValue(QDBusVariant(QVariant(true)));
+    seen = PainelDesktopSettings::interpret(gnome, "enable-animations", wrapped, seen);
+    EXPECT_EQ(seen.reducedMotion, false);
+    seen = PainelDesktopSettings::interpret(a11y, "high-contrast", true, seen);
+    EXPECT_EQ(seen.increasedContrast, true);
+    seen = PainelDesktopSettings::interpret(appearance, "contrast", 0u, seen);
+    EXPECT_EQ(seen.increasedContrast, false);
+    seen = PainelDesktopSettings::interpret(appearance, "contrast", 1u, seen);
+    EXPECT_EQ(seen.increasedContrast, true);
+    const PainelDesktopPreferences before = seen;
+    seen = PainelDesktopSettings::interpret(gnome, "gtk-theme", "Adwaita", seen);
+    seen = PainelDesktopSettings::interpret(a11y, "high-contrast", QVariant(), seen);
+    EXPECT_EQ(seen, before) << "keys we don't follow and empty answers change nothing";
+}
+
+TEST(PainelDesktopSettings, ThemesFollowTheDesktopWhenItChanges) {
+    PainelDesktopSettings& desktop = PainelDesktopSettings::shared();
+    const PainelDesktopPreferences before = desktop.preferences();
+    PainelTheme theme;
+    desktop.overrideWith({.reducedMotion = true, .increasedContrast = true});
+    EXPECT_TRUE(theme.reducedMotion());
+    EXPECT_TRUE(theme.increasedContrast());
+    EXPECT_EQ(theme.ledOff(), hex("#1A1A1C"));
+    EXPECT_TRUE(PainelTheme().increasedContrast()) << "a theme made later starts from the desktop";
+    desktop.overrideWith(before);
+    EXPECT_FALSE(theme.increasedContrast());
+}
