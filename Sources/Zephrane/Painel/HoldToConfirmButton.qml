@@ -137,10 +137,15 @@ Item {
         parent: T.Overlay.overlay
         anchors.centerIn: parent
         width: Math.min(420, (parent ? parent.width : 420) - 48)
+        implicitHeight: contentHeight + topPadding + bottomPadding
         padding: 22
         modal: true
         focus: true
-        onClosed: controller.cancelConfirmation()
+        // Keyboard focus comes back to the key the question was about.
+        onClosed: {
+            controller.cancelConfirmation()
+            root.forceActiveFocus()
+        }
         onOpened: cancelKey.forceActiveFocus()
 
         T.Overlay.modal: Rectangle {

@@ -10,7 +10,9 @@ LEDNumberCanvas {
 
     color: PainelTheme.text
     unitColor: PainelTheme.muted
-    family: PainelTheme.dotFamily
+    family: PainelTheme.monoFamily
+    // Unlit segments show faintly, so they never read as lit ones.
+    ghostColor: Qt.rgba(PainelTheme.ledOff.r, PainelTheme.ledOff.g, PainelTheme.ledOff.b, 0.55)
     unitFamily: PainelTheme.monoFamily
 
     Accessible.role: Accessible.StaticText

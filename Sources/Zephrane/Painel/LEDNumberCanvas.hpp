@@ -7,14 +7,18 @@
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
-// The panel's big digits: the integer, the decimal separator drawn as a dot of its own, the
-// fraction, then the unit in a smaller face on the same baseline. The content is either a byte count
-// (split for a locale) or parts given directly. LEDNumber.qml dresses it with the palette and the
+#include <cmath>
+#include <cstdint>
+
+// The panel's big digits, drawn as seven-segment lamps: the integer, the decimal separator as a dot
+// of its own, the fraction, then the unit in a smaller face on the same baseline. The content is either a
+// byte count (split for a locale) or parts given directly. LEDNumber.qml dresses it with the palette and the
 // spoken value.
 class LEDNumberCanvas : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(qint64 bytes READ bytes WRITE setBytes NOTIFY contentChanged)
+    // A QML number: byte counts are exact up to 2^53, far beyond any disk.
+    Q_PROPERTY(double bytes READ bytesNumber WRITE setBytesNumber NOTIFY contentChanged)
     Q_PROPERTY(QString locale READ locale WRITE setLocale NOTIFY contentChanged)
     Q_PROPERTY(ByteParts parts READ parts WRITE setParts NOTIFY contentChanged)
     Q_PROPERTY(QString integer READ integer WRITE setInteger NOTIFY contentChanged)
@@ -36,6 +40,8 @@ public:
 
     qint64 bytes() const { return byteCount; }
     void setBytes(qint64 value);
+    double bytesNumber() const { return double(byteCount); }
+    void setBytesNumber(double value) { setBytes(qint64(std::llround(value))); }
     QString locale() const { return localeName; }
     void setLocale(const QString& value);
     ByteParts parts() const { return content; }
@@ -58,7 +64,7 @@ public:
     void setColor(const QColor& value);
     QColor unitColor() const { return unitTextColor; }
     void setUnitColor(const QColor& value);
-    // Unlit "8"s behind the digits, as on a real display; transparent draws none.
+    // The unlit segments behind the digits, as on a real display; transparent draws none.
     QColor ghostColor() const { return ghost; }
     void setGhostColor(const QColor& value);
     QString family() const { return digitFamily; }
@@ -75,17 +81,29 @@ signals:
     void lookChanged();
 
 private:
-    // Where each piece goes, from the fonts and the content.
+    // The shape of one seven-segment digit at the current size.
+    struct Metrics {
+        qreal height = 0, width = 0, thickness = 0, spacing = 0;
+    };
+    // Where each piece goes, from the size and the content.
     struct Layout {
-        qreal integerWidth = 0, dotGap = 0, dotSize = 0, fractionWidth = 0, unitGap = 0, unitWidth = 0;
+        qreal integerWidth = 0, dotGap = 0, dotSize = 0, fractionWidth = 0, lean = 0, unitGap = 0,
+              unitWidth = 0;
         qreal ascent = 0, descent = 0;
         qreal width() const;
     };
+    Metrics metrics() const;
     Layout measure() const;
+    qreal advance(QChar c) const;
+    qreal runWidth(const QString& text) const;
+    // Draws a run of digits and separators with its baseline at y = 0; returns where it ended.
+    qreal drawRun(QPainter* painter, const QString& text, qreal x) const;
+    void drawSegments(QPainter* painter, std::uint8_t lit, qreal left) const;
     QFont digitFont() const;
     QFont unitFont() const;
     qreal effectiveUnitSize() const;
     void partsChanged();
+    bool leaveBytes();
     void relayout();
 
     qint64 byteCount = 0;

@@ -1,0 +1,157 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Window
+import Zephrane
+
+// Every piece of the panel kit in its states, for the gallery test to load and photograph.
+Window {
+    id: root
+
+    property bool increasedContrast: false
+    property string locale: "en"
+    property bool reducedMotion: false
+
+    width: 1040
+    height: 760
+    visible: true
+    color: PainelTheme.bg
+
+    Binding { target: PainelTheme; property: "increasedContrast"; value: root.increasedContrast }
+    Binding { target: PainelTheme; property: "reducedMotion"; value: root.reducedMotion }
+
+    component Caption: MonoLabel { tone: MonoLabel.Faint }
+
+    Row {
+        x: 24
+        y: 24
+        spacing: 36
+
+        Column {
+            spacing: 14
+            width: 300
+
+            DotMatrixLogo { objectName: "logo" }
+            DotMatrixLogo { implicitHeight: 14; animatesPowerOn: false; isOn: false }
+            Caption { text: "phase header" }
+            PhaseHeader { text: "Scanning"; busy: true }
+            PhaseHeader { text: "Ready to clean"; tone: PhaseHeader.Ok }
+            PhaseHeader { text: "Nothing to clean"; tone: PhaseHeader.Muted }
+            Caption { text: "mono label tones" }
+            Row {
+                spacing: 10
+                MonoLabel { text: "normal"; tone: MonoLabel.Normal }
+                MonoLabel { text: "muted"; tone: MonoLabel.Muted }
+                MonoLabel { text: "faint"; tone: MonoLabel.Faint }
+                MonoLabel { text: "accent"; tone: MonoLabel.Accent }
+                MonoLabel { text: "ok"; tone: MonoLabel.Ok }
+                MonoLabel { text: "warn"; tone: MonoLabel.Warn }
+            }
+            Caption { text: "check lamps: off, on, mixed, focused" }
+            Row {
+                spacing: 14
+                CheckLED { label: "off" }
+                CheckLED { label: "on"; isOn: true }
+                CheckLED { label: "mixed"; isMixed: true }
+                CheckLED { objectName: "focusedLamp"; label: "focused"; isOn: true }
+            }
+            Caption { text: "keys" }
+            Row {
+                spacing: 8
+                PainelButton { text: "Scan"; kind: PainelButtonKind.Accent }
+                PainelButton { text: "Review" }
+                PainelButton { text: "Open"; kind: PainelButtonKind.Light }
+            }
+            Row {
+                spacing: 8
+                PainelButton { text: "Small"; size: PainelButtonSize.Small }
+                PainelButton { text: "Large"; size: PainelButtonSize.Large; kind: PainelButtonKind.Accent }
+                PainelButton { text: "Off"; enabled: false }
+            }
+            PainelButton { objectName: "focusedKey"; text: "Focused key" }
+            Caption { text: "hold to confirm: idle, filling, disabled" }
+            HoldToConfirmButton {
+                objectName: "holdIdle"
+                width: 260
+                title: "Delete for good"
+                confirmTitle: "Delete 1.2 GB for good?"
+                confirmMessage: "The selected items are removed at once and can't be brought back from the trash."
+            }
+            HoldToConfirmButton {
+                objectName: "holdFilling"
+                width: 260
+                title: "Empty trash"
+                customLabel: "Hold to empty"
+                size: PainelButtonSize.Large
+            }
+            HoldToConfirmButton {
+                width: 260
+                title: "Delete for good"
+                enabled: false
+                size: PainelButtonSize.Small
+            }
+        }
+
+        Column {
+            spacing: 14
+            width: 320
+
+            Caption { text: "led number: bytes" }
+            Rectangle {
+                width: 320
+                height: bytesNumber.implicitHeight + 24
+                radius: 8
+                color: PainelTheme.deep
+                LEDNumber {
+                    id: bytesNumber
+                    objectName: "bytesNumber"
+                    x: 14
+                    anchors.verticalCenter: parent.verticalCenter
+                    size: 56
+                    locale: root.locale
+                    bytes: 1234567890
+                    label: "Selected"
+                }
+            }
+            LEDNumber { size: 40; locale: root.locale; bytes: 12500000000; ghostColor: "transparent" }
+            LEDNumber { size: 28; locale: root.locale; bytes: 999; unitColor: PainelTheme.accent }
+            LEDNumber { size: 28; locale: root.locale; bytes: 0 }
+            Caption { text: "led number: parts" }
+            LEDNumber { size: 40; integer: "42"; fraction: "7"; unit: "%"; spoken: "42.7 percent"; color: PainelTheme.accent }
+            LEDNumber { size: 18; integer: "1,024"; unit: "files"; label: "Found" }
+            LEDNumber { width: 320; size: 32; integer: "88"; unit: "MB"; horizontalAlignment: Text.AlignRight }
+            Caption { text: "scan sweep" }
+            Rectangle {
+                width: 320
+                height: 40
+                radius: 6
+                color: PainelTheme.deep
+                clip: true
+                ScanSweep { anchors.fill: parent; running: false; sweep: 0.55 }
+            }
+        }
+
+        Column {
+            spacing: 14
+            width: 300
+
+            Caption { text: "led meters" }
+            LEDMeter { objectName: "meter"; width: 300; fraction: 0.62; cells: 24; accentTail: 4; label: "Disk" }
+            LEDMeter { width: 300; fraction: 0.97; cells: 24; accentTail: 4; tint: LEDMeter.Accent }
+            LEDMeter { width: 300; fraction: 0.003; cells: 24; tint: LEDMeter.Muted }
+            LEDMeter { width: 300; height: 14; fraction: 0.4; cells: 30; spacing: 3; cornerRadius: 0 }
+            Item {
+                width: 300
+                height: 12
+                LayoutMirroring.enabled: true
+                LayoutMirroring.childrenInherit: true
+                LEDMeter { width: 300; height: 12; fraction: 0.3; cells: 20; value: "right to left" }
+            }
+            Row {
+                spacing: 12
+                LEDMeter { axis: Qt.Vertical; width: 10; height: 120; fraction: 0.75; cells: 12; accentTail: 3 }
+                LEDMeter { axis: Qt.Vertical; width: 10; height: 120; fraction: 0.25; cells: 12; tint: LEDMeter.Accent }
+                LEDMeter { axis: Qt.Vertical; width: 24; height: 120; fraction: 0.5; cells: 8; fillsCrossAxis: false; cornerRadius: 3 }
+            }
+        }
+    }
+}
