@@ -150,24 +150,32 @@ bool pathIsInside(std::string_view path, std::string_view container) {
     return container.ends_with('/') || (path.size() > container.size() && path[container.size()] == '/');
 }
 
-std::string standardizedPath(std::string_view path) {
-    const bool absolute = path.starts_with('/');
+std::vector<std::string_view> pathComponents(std::string_view path) {
     std::vector<std::string_view> parts;
     std::size_t start = 0;
     while (start <= path.size()) {
         std::size_t end = path.find('/', start);
         if (end == std::string_view::npos)
             end = path.size();
-        const std::string_view part = path.substr(start, end - start);
+        if (end > start)
+            parts.push_back(path.substr(start, end - start));
+        start = end + 1;
+    }
+    return parts;
+}
+
+std::string standardizedPath(std::string_view path) {
+    const bool absolute = path.starts_with('/');
+    std::vector<std::string_view> parts;
+    for (const std::string_view part : pathComponents(path)) {
         if (part == "..") {
             if (!parts.empty() && parts.back() != "..")
                 parts.pop_back();
             else if (!absolute)
                 parts.push_back(part); // a relative path may climb above its start
-        } else if (!part.empty() && part != ".") {
+        } else if (part != ".") {
             parts.push_back(part);
         }
-        start = end + 1;
     }
     std::string out = absolute ? "/" : "";
     for (std::size_t i = 0; i < parts.size(); ++i) {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace CleanerCore {
 
@@ -44,6 +45,8 @@ private:
     bool fileURL = false;
 };
 
+// The non-empty components of a path, in order ("/a//b/" gives "a", "b").
+std::vector<std::string_view> pathComponents(std::string_view path);
 // Lexical clean-up of a path: "." and ".." resolved, "//" collapsed, trailing "/" dropped.
 std::string standardizedPath(std::string_view path);
 // The same test on paths that are already standardized, for callers that test many of them.

@@ -135,20 +135,6 @@ std::string_view parentOf(std::string_view path) {
     return slash == 0 ? std::string_view("/") : path.substr(0, slash);
 }
 
-std::vector<std::string_view> partsOf(std::string_view path) {
-    std::vector<std::string_view> parts;
-    std::size_t start = 0;
-    while (start <= path.size()) {
-        std::size_t end = path.find('/', start);
-        if (end == std::string_view::npos)
-            end = path.size();
-        if (end > start)
-            parts.push_back(path.substr(start, end - start));
-        start = end + 1;
-    }
-    return parts;
-}
-
 bool anyEquals(std::string_view path, const std::vector<std::string>& entries) {
     return std::any_of(entries.begin(), entries.end(), [&](const std::string& e) { return path == e; });
 }
@@ -296,7 +282,7 @@ std::string resolvingParent(std::string_view path) {
 bool isProtectedPath(std::string_view path, std::span<const std::string> homes,
                      std::span<const std::string> bundles) {
     const Folded& t = tables();
-    const std::vector<std::string_view> parts = partsOf(path);
+    const std::vector<std::string_view> parts = pathComponents(path);
     if (parts.size() < 2)
         return true;
     if (anyEquals(path, t.exactSystem) || anyTree(path, t.systemTrees))
