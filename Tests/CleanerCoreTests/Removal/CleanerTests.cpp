@@ -1,6 +1,7 @@
 #include "CleanerCore/Display/CoreL10n.hpp"
 #include "CleanerCore/Removal/Cleaner.hpp"
 
+#include "DeepChain.hpp"
 #include "FaultySystemCalls.hpp"
 #include "TempTree.hpp"
 
@@ -179,17 +180,9 @@ TEST_F(CleanerTest, AParentSwappedForALinkAfterTheCheckFailsInsteadOfFollowing) 
 }
 
 TEST_F(CleanerTest, DeepTreesGoWithoutExhaustingTheStackOrDescriptors) {
-    // Far deeper than the descriptors the removal keeps open at once; built through descriptors.
+    // Far deeper than the descriptors the removal keeps open at once.
     const fs::path top = tree.folder("home/deep");
-    int fd = ::open(top.c_str(), O_RDONLY | O_DIRECTORY);
-    for (int level = 0; level < 600; ++level) {
-        ASSERT_EQ(::mkdirat(fd, "d", 0700), 0);
-        ::close(::openat(fd, "f", O_CREAT | O_WRONLY, 0600));
-        const int next = ::openat(fd, "d", O_RDONLY | O_DIRECTORY);
-        ::close(fd);
-        fd = next;
-    }
-    ::close(fd);
+    const TestSupport::DeepChain chain(top, 600);
     TestSupport::FaultySystemCalls calls;
     RemovalReport report;
     {
