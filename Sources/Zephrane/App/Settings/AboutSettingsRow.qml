@@ -38,14 +38,11 @@ ColumnLayout {
 
         ColumnLayout {
             Layout.fillWidth: true
-            spacing: 2
+            spacing: 6
 
-            Text {
-                text: qsTrId("Zephrane")
-                color: PainelTheme.text
-                font.family: PainelTheme.sansFamily
-                font.pixelSize: 15
-                font.weight: Font.DemiBold
+            DotMatrixLogo {
+                implicitHeight: 18
+                animatesPowerOn: false
             }
             MonoLabel {
                 text: qsTrId("settings.about.version").arg(Qt.application.version)
@@ -59,7 +56,7 @@ ColumnLayout {
         spacing: 12
 
         // No update service is built into this edition of the program, so the key stays off.
-        SettingsKey {
+        PainelButton {
             text: qsTrId("settings.about.checkForUpdates")
             enabled: false
         }
@@ -73,10 +70,10 @@ ColumnLayout {
         }
     }
 
-    SettingsKey {
+    PainelButton {
         Layout.bottomMargin: 6
         text: qsTrId("settings.about.welcome")
-        onActivated: {
+        onClicked: {
             root.preferences.onboardingDone = false
             root.welcomeRequested()
         }

@@ -23,10 +23,10 @@ RowLayout {
         elide: Text.ElideRight
     }
 
-    SettingsKey {
+    PainelButton {
         visible: !FullDiskAccessMonitor.isGranted
         text: qsTrId("fda.action.openSettings")
-        onActivated: FullDiskAccessMonitor.openSettings()
+        onClicked: FullDiskAccessMonitor.openSettings()
     }
 
     DiskAccessStatus {

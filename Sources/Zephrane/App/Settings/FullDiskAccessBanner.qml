@@ -58,14 +58,14 @@ Rectangle {
             }
         }
 
-        SettingsKey {
+        PainelButton {
             text: qsTrId("fda.action.check")
-            onActivated: FullDiskAccessMonitor.check()
+            onClicked: FullDiskAccessMonitor.check()
         }
-        SettingsKey {
-            accented: true
+        PainelButton {
+            kind: PainelButtonKind.Accent
             text: qsTrId("fda.action.openSettings")
-            onActivated: FullDiskAccessMonitor.openSettings()
+            onClicked: FullDiskAccessMonitor.openSettings()
         }
     }
 }

@@ -71,9 +71,10 @@ ColumnLayout {
                 Accessible.name: text
             }
 
-            SettingsKey {
+            PainelButton {
+                kind: PainelButtonKind.Accent
                 text: qsTrId("settings.language.relaunch")
-                onActivated: choice.relaunch()
+                onClicked: choice.relaunch()
             }
         }
     }
