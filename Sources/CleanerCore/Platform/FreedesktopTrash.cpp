@@ -79,13 +79,13 @@ int writeAll(int fd, const std::string& text) {
             return EIO;
         done += static_cast<std::size_t>(wrote);
     }
-    return retryingInterrupted([&] { return calls.fsync(fd); }) == 0 ? 0 : errno;
+    return 0;
 }
 
 } // namespace
 
 FreedesktopTrash::FreedesktopTrash(std::string dataHomePath, std::vector<MountPoint> mountList)
-    : dataHome(std::move(dataHomePath)), mounts(std::move(mountList)) {}
+    : dataHome(std::move(dataHomePath)), mounts(std::move(mountList)), random(std::random_device{}()) {}
 
 std::string FreedesktopTrash::dataHomeFor(const std::string& homePath) {
     const char* configured = std::getenv("XDG_DATA_HOME");
@@ -176,90 +176,164 @@ FreedesktopTrash::Bin& FreedesktopTrash::volumeBin(dev_t device, const std::stri
     return bin;
 }
 
-int FreedesktopTrash::openParent(const std::string& parent) {
-    if (!cachedParent || cachedParentPath != parent) {
-        cachedParent.reset(openFolderNoFollow(parent));
-        cachedParentPath = cachedParent ? parent : std::string{};
+std::shared_ptr<FileDescriptor> FreedesktopTrash::openParent(const std::string& parent) {
+    if (!cachedParent || !*cachedParent || cachedParentPath != parent) {
+        cachedParent = std::make_shared<FileDescriptor>(openFolderNoFollow(parent));
+        cachedParentPath = parent;
     }
-    return cachedParent.get();
+    return cachedParent;
 }
 
 int FreedesktopTrash::trash(const std::string& path) {
+    return trashAll({path}).front();
+}
+
+std::vector<int> FreedesktopTrash::trashAll(const std::vector<std::string>& paths) {
+    std::vector<int> results(paths.size(), 0);
+    std::vector<Pending> pending;
+    pending.reserve(paths.size());
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        Pending item{.index = i, .path = paths[i]};
+        results[i] = prepare(item);
+        if (results[i] == 0)
+            pending.push_back(std::move(item));
+    }
+    makeDurable(pending, results);
+    for (Pending& item : pending)
+        results[item.index] = place(item);
+    return results;
+}
+
+// Finds the item and its trash, and writes its info file under a free name (not yet flushed).
+int FreedesktopTrash::prepare(Pending& item) {
     SystemCalls& calls = SystemCalls::current();
-    const std::size_t slash = path.rfind('/');
-    if (slash == std::string::npos || slash + 1 == path.size())
+    const std::size_t slash = item.path.rfind('/');
+    if (slash == std::string::npos || slash + 1 == item.path.size())
         return EINVAL;
-    const std::string parent = slash == 0 ? "/" : path.substr(0, slash);
-    const std::string name = path.substr(slash + 1);
-    const int parentFd = openParent(parent);
-    if (parentFd < 0)
+    item.name = item.path.substr(slash + 1);
+    item.parent = openParent(slash == 0 ? "/" : item.path.substr(0, slash));
+    if (!*item.parent)
         return errno;
-    struct stat item, folder;
-    if (retryingInterrupted(
-            [&] { return calls.fstatat(parentFd, name.c_str(), &item, AT_SYMLINK_NOFOLLOW); }) != 0 ||
-        calls.fstat(parentFd, &folder) != 0)
+    struct stat entry, folder;
+    if (retryingInterrupted([&] {
+            return calls.fstatat(item.parent->get(), item.name.c_str(), &entry, AT_SYMLINK_NOFOLLOW);
+        }) != 0 ||
+        calls.fstat(item.parent->get(), &folder) != 0)
         return errno;
-    if (S_ISDIR(item.st_mode) && item.st_dev != folder.st_dev)
+    if (S_ISDIR(entry.st_mode) && entry.st_dev != folder.st_dev)
         return EBUSY;
     Bin& homeTrash = homeBin();
     if (!homeDevice)
         return homeTrash.error; // without the home's volume known, no trash can be chosen safely
-    Bin& bin = item.st_dev == *homeDevice ? homeTrash : volumeBin(item.st_dev, path);
-    if (bin.error)
-        return bin.error;
-    return move(bin, parentFd, path, name);
+    item.bin = entry.st_dev == *homeDevice ? &homeTrash : &volumeBin(entry.st_dev, item.path);
+    if (item.bin->error)
+        return item.bin->error;
+    return writeInfo(item, 0);
 }
 
-int FreedesktopTrash::move(Bin& bin, int parentFd, const std::string& path, const std::string& name) {
+int FreedesktopTrash::writeInfo(Pending& item, int firstAttempt) {
     SystemCalls& calls = SystemCalls::current();
-    const std::string recorded = bin.topDirectory.empty()  ? path
-                                 : bin.topDirectory == "/" ? path.substr(1)
-                                                           : path.substr(bin.topDirectory.size() + 1);
+    const Bin& bin = *item.bin;
+    const std::string recorded = bin.topDirectory.empty()  ? item.path
+                                 : bin.topDirectory == "/" ? item.path.substr(1)
+                                                           : item.path.substr(bin.topDirectory.size() + 1);
     const std::string text = infoText(recorded, std::chrono::system_clock::now());
-    std::mt19937 random(std::random_device{}());
-    for (int attempt = 0; attempt < kAllAttempts; ++attempt) {
-        const std::string candidate = candidateName(name, attempt, random);
-        const std::string infoName = candidate + std::string(kInfoSuffix);
-        const int fd = retryingInterrupted([&] {
+    for (int attempt = firstAttempt; attempt < kAllAttempts; ++attempt) {
+        item.candidate = candidateName(item.name, attempt, random);
+        item.attempt = attempt;
+        struct stat taken;
+        if (calls.fstatat(bin.files.get(), item.candidate.c_str(), &taken, AT_SYMLINK_NOFOLLOW) == 0)
+            continue;
+        const std::string infoName = item.candidate + std::string(kInfoSuffix);
+        item.info.reset(retryingInterrupted([&] {
             return calls.openat(bin.info.get(), infoName.c_str(),
                                 O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
-        });
-        if (fd < 0) {
+        }));
+        if (!item.info) {
             if (errno == EEXIST)
                 continue;
             return errno;
         }
-        int error = writeAll(fd, text);
-        if (calls.close(fd) != 0 && !error)
-            error = errno;
-        const auto dropInfo = [&] { calls.unlinkat(bin.info.get(), infoName.c_str(), 0); };
-        if (error) {
-            dropInfo();
+        if (const int error = writeAll(item.info.get(), text)) {
+            dropInfo(item);
             return error;
         }
+        return 0;
+    }
+    return EEXIST;
+}
+
+// The info files must be on disk before any item moves: a few are flushed one by one, a large
+// batch with one flush of each volume.
+void FreedesktopTrash::makeDurable(std::vector<Pending>& pending, std::vector<int>& results) {
+    SystemCalls& calls = SystemCalls::current();
+    std::map<const Bin*, std::vector<Pending*>> byBin;
+    for (Pending& item : pending)
+        byBin[item.bin].push_back(&item);
+    for (auto& [bin, items] : byBin) {
+        constexpr std::size_t kFlushOneByOne = 4;
+        if (items.size() > kFlushOneByOne) {
+            if (retryingInterrupted([&] { return calls.syncfs(items.front()->info.get()); }) != 0)
+                for (Pending* item : items)
+                    results[item->index] = errno;
+        } else {
+            for (Pending* item : items)
+                if (retryingInterrupted([&] { return calls.fsync(item->info.get()); }) != 0)
+                    results[item->index] = errno;
+        }
+        for (Pending* item : items) {
+            if (item->info && calls.close(item->info.release()) != 0 && !results[item->index])
+                results[item->index] = errno;
+            if (results[item->index])
+                dropInfo(*item);
+        }
+    }
+    std::erase_if(pending, [&](const Pending& item) { return results[item.index] != 0; });
+}
+
+// Moves the item under the name its info file holds; a name taken meanwhile starts over under the
+// next free name.
+int FreedesktopTrash::place(Pending& item) {
+    SystemCalls& calls = SystemCalls::current();
+    for (;;) {
+        const Bin& bin = *item.bin;
         int moved = retryingInterrupted([&] {
-            return calls.renameat2(parentFd, name.c_str(), bin.files.get(), candidate.c_str(),
-                                   RENAME_NOREPLACE);
+            return calls.renameat2(item.parent->get(), item.name.c_str(), bin.files.get(),
+                                   item.candidate.c_str(), RENAME_NOREPLACE);
         });
         if (moved != 0 && errno == EINVAL) {
             // A file system without no-replace renames: check the name is free, then move.
             struct stat taken;
-            if (calls.fstatat(bin.files.get(), candidate.c_str(), &taken, AT_SYMLINK_NOFOLLOW) == 0) {
-                dropInfo();
-                continue;
-            }
-            moved = retryingInterrupted([&] {
-                return calls.renameat2(parentFd, name.c_str(), bin.files.get(), candidate.c_str(), 0);
-            });
+            if (calls.fstatat(bin.files.get(), item.candidate.c_str(), &taken, AT_SYMLINK_NOFOLLOW) == 0)
+                errno = EEXIST;
+            else
+                moved = retryingInterrupted([&] {
+                    return calls.renameat2(item.parent->get(), item.name.c_str(), bin.files.get(),
+                                           item.candidate.c_str(), 0);
+                });
         }
         if (moved == 0)
             return 0;
-        error = errno;
-        dropInfo();
+        const int error = errno;
+        dropInfo(item);
         if (error != EEXIST)
             return error;
+        if (const int retry = writeInfo(item, item.attempt + 1))
+            return retry;
+        const int flushed = retryingInterrupted([&] { return calls.fsync(item.info.get()); });
+        const int flushError = flushed == 0 ? 0 : errno;
+        item.info.reset();
+        if (flushError) {
+            dropInfo(item);
+            return flushError;
+        }
     }
-    return EEXIST;
+}
+
+void FreedesktopTrash::dropInfo(Pending& item) {
+    item.info.reset();
+    const std::string infoName = item.candidate + std::string(kInfoSuffix);
+    SystemCalls::current().unlinkat(item.bin->info.get(), infoName.c_str(), 0);
 }
 
 } // namespace CleanerCore::Platform

@@ -42,6 +42,9 @@ ssize_t SystemCalls::write(int fd, const void* data, std::size_t length) {
 int SystemCalls::fsync(int fd) {
     return ::fsync(fd);
 }
+int SystemCalls::syncfs(int fd) {
+    return ::syncfs(fd);
+}
 int SystemCalls::fstat(int fd, struct ::stat* out) {
     return ::fstat(fd, out);
 }

@@ -26,6 +26,7 @@ public:
     virtual int mkdirat(int dirfd, const char* path, mode_t mode);
     virtual ssize_t write(int fd, const void* data, std::size_t length);
     virtual int fsync(int fd);
+    virtual int syncfs(int fd);
     virtual int fstat(int fd, struct ::stat* out);
     virtual int fchmod(int fd, mode_t mode);
     virtual char* realpath(const char* path, char* resolved);

@@ -10,6 +10,8 @@
 #include <cerrno>
 #include <cstring>
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace CleanerCore {
 namespace {
@@ -52,32 +54,55 @@ int removePermanently(const std::string& path) {
 } // namespace
 
 RemovalReport Cleaner::remove(std::span<const CleanupItem> items) const {
-    RemovalReport report{.mode = mode_};
+    // The outcome of each item: a refusal's reason, or the errno of its removal (0: removed).
+    std::vector<std::optional<std::string>> refusals(items.size());
+    std::vector<int> errors(items.size(), 0);
     std::unique_ptr<Platform::FreedesktopTrash> trash;
-    for (const CleanupItem& item : items) {
+    std::vector<std::size_t> batch;
+    std::vector<std::string> targets;
+    // Trashing goes in batches, so that one flush makes the info files of many items durable.
+    const auto trashBatch = [&] {
+        if (!trash)
+            trash = std::make_unique<Platform::FreedesktopTrash>(
+                Platform::FreedesktopTrash::dataHomeFor(home_.path()));
+        const std::vector<int> results = trash->trashAll(targets);
+        for (std::size_t k = 0; k < batch.size(); ++k)
+            errors[batch[k]] = results[k];
+        batch.clear();
+        targets.clear();
+    };
+    constexpr std::size_t kTrashBatch = 256;
+    for (std::size_t i = 0; i < items.size(); ++i) {
         URL target;
         try {
-            target = SafetyGuard::check(item.url, home_, ownBundle_);
+            target = SafetyGuard::check(items[i].url, home_, ownBundle_);
         } catch (const SafetyGuard::Refusal& refusal) {
-            report.failures.push_back({item.url, refusal.localizedDescription()});
+            refusals[i] = refusal.localizedDescription();
             continue;
         }
-        int error = 0;
-        if (mode_ == RemovalMode::trash) {
-            if (!trash)
-                trash = std::make_unique<Platform::FreedesktopTrash>(
-                    Platform::FreedesktopTrash::dataHomeFor(home_.path()));
-            error = trash->trash(target.path());
-        } else {
-            error = removePermanently(target.path());
+        if (mode_ == RemovalMode::permanent) {
+            errors[i] = removePermanently(target.path());
+            continue;
         }
-        if (error == 0 || error == ENOENT) {
+        batch.push_back(i);
+        targets.push_back(target.path());
+        if (batch.size() == kTrashBatch)
+            trashBatch();
+    }
+    if (!batch.empty())
+        trashBatch();
+
+    RemovalReport report{.mode = mode_};
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (refusals[i]) {
+            report.failures.push_back({items[i].url, *refusals[i]});
+        } else if (errors[i] == 0 || errors[i] == ENOENT) {
             // Already gone counts as removed, without bytes: someone else freed them.
-            report.removed.push_back(item.url);
-            if (error == 0)
-                report.bytes += item.size;
+            report.removed.push_back(items[i].url);
+            if (errors[i] == 0)
+                report.bytes += items[i].size;
         } else {
-            report.failures.push_back({item.url, reasonFor(error)});
+            report.failures.push_back({items[i].url, reasonFor(errors[i])});
         }
     }
     return report;

@@ -223,6 +223,29 @@ TEST_F(CleanerTest, TheInfoFileExistsBeforeTheItemEntersTheTrash) {
     EXPECT_TRUE(infoAtMove.starts_with("[Trash Info]\nPath=/")) << infoAtMove;
 }
 
+TEST_F(CleanerTest, ABatchFlushesEveryInfoFileBeforeAnyItemMovesAndSurvivesATakenName) {
+    std::vector<fs::path> paths;
+    for (int i = 0; i < 20; ++i)
+        paths.push_back(tree.file("home/Downloads/item " + std::to_string(i) + ".txt", 1));
+    TestSupport::FaultySystemCalls calls;
+    int renames = 0, completeInfos = 0;
+    calls.beforeRename = [&](const char*, const char* to) {
+        if (renames++ == 0) // someone else takes the chosen name at the last moment
+            tree.file("home/.local/share/Trash/files/" + std::string(to), 1);
+        completeInfos += readText(trashInfo() / (std::string(to) + ".trashinfo")).find("DeletionDate=") !=
+                         std::string::npos;
+    };
+    RemovalReport report;
+    {
+        Platform::ScopedSystemCalls installed(calls);
+        report = remove(RemovalMode::trash, paths);
+    }
+    EXPECT_EQ(report.removed.size(), 20u);
+    EXPECT_EQ(completeInfos, renames);
+    EXPECT_TRUE(present(trashFiles() / "item 0 2.txt"));
+    EXPECT_EQ(countEntries(trashInfo()), 20u) << "one info per trashed item, none for the intruder";
+}
+
 // One row per failure kind: the item stays where it was, the reason says why, and a failed trash
 // move leaves no orphaned info file behind.
 struct FaultCase {
