@@ -271,5 +271,9 @@
         <source>Cancel</source>
         <translation>Cancel</translation>
     </message>
+    <message id="shell.disk.freeOf">
+        <source>free of %1</source>
+        <translation>free of %1</translation>
+    </message>
 </context>
 </TS>

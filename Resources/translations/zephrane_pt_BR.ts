@@ -271,5 +271,9 @@
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message id="shell.disk.freeOf">
+        <source>free of %1</source>
+        <translation>livres de %1</translation>
+    </message>
 </context>
 </TS>

@@ -32,15 +32,13 @@ Rectangle {
         RowLayout {
             Layout.fillWidth: true
             Layout.bottomMargin: 14
-            Text {
-                Layout.fillWidth: true
-                text: "ZEPHRANE"
-                color: PainelTheme.text
-                font.family: PainelTheme.dotFamily
-                font.pixelSize: 22
-                font.weight: Font.Bold
+            DotMatrixLogo {
+                Layout.preferredHeight: 20
+                Layout.preferredWidth: implicitWidth
+                // The window's title already names the program.
                 Accessible.ignored: true
             }
+            Item { Layout.fillWidth: true }
             GoMenuKey {
                 commands: root.goCommands
             }

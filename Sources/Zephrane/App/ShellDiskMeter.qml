@@ -2,7 +2,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Zephrane
 
-// The root volume under the channel keys: a bar of used space and the free bytes.
+// The root volume under the channel keys: a meter of used space, the free bytes in LED digits and
+// the size of the volume.
 Column {
     id: root
 
@@ -10,35 +11,42 @@ Column {
     property real total: 0
     property real usedFraction: 0
 
-    spacing: 6
+    spacing: 8
     Accessible.role: Accessible.ProgressBar
     Accessible.name: qsTrId("shell.disk.a11y")
-    Accessible.description: freeText.text
+    Accessible.description: qsTrId("shell.disk.free").arg(ByteFormat.spoken(root.free)).arg(ByteFormat.spoken(root.total))
 
     MonoLabel {
         text: qsTrId("shell.disk.label")
         tone: MonoLabel.Faint
     }
 
-    Rectangle {
+    // The last cells light in the accent: a disk that is nearly full shows it.
+    LEDMeter {
         width: parent.width
-        height: 6
-        radius: 3
-        color: PainelTheme.ledOff
-        Rectangle {
-            width: parent.width * root.usedFraction
-            height: parent.height
-            radius: 3
-            color: root.usedFraction > 0.9 ? PainelTheme.warn : PainelTheme.muted
-        }
+        height: 8
+        cells: 24
+        spacing: 2
+        accentTail: 3
+        tint: LEDMeter.Muted
+        fraction: root.usedFraction
+        Accessible.ignored: true
     }
 
-    Text {
-        id: freeText
-        text: qsTrId("shell.disk.free").arg(Qt.locale().formattedDataSize(root.free, 1, Locale.DataSizeSIFormat))
-                .arg(Qt.locale().formattedDataSize(root.total, 0, Locale.DataSizeSIFormat))
-        color: PainelTheme.muted
-        font.family: PainelTheme.monoFamily
-        font.pixelSize: 11
+    Row {
+        spacing: 8
+
+        LEDNumber {
+            id: freeDigits
+            size: 22
+            bytes: root.free
+            Accessible.ignored: true
+        }
+        MonoLabel {
+            anchors.bottom: freeDigits.bottom
+            anchors.bottomMargin: 2
+            text: qsTrId("shell.disk.freeOf").arg(ByteFormat.text(root.total))
+            tone: MonoLabel.Faint
+        }
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CleanerCore/Display/ByteDisplay.hpp"
+
 #include <QMetaType>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -25,6 +27,8 @@ public:
 
     // `locale` is a BCP 47 identifier; empty means the application's language.
     static ByteParts make(std::int64_t bytes, const QString& locale = {});
+    // The engine's display of a count, in that locale or the application's language.
+    static CleanerCore::ByteDisplay display(std::int64_t bytes, const QString& locale = {});
 
     bool operator==(const ByteParts&) const = default;
 };

@@ -11,7 +11,8 @@ enum class PainelAccent { orange, lime, blue };
 
 namespace PainelAccents {
 
-inline constexpr std::array<PainelAccent, 3> allCases{PainelAccent::orange, PainelAccent::lime, PainelAccent::blue};
+inline constexpr std::array<PainelAccent, 3> allCases{PainelAccent::orange, PainelAccent::lime,
+                                                      PainelAccent::blue};
 inline constexpr PainelAccent standard = PainelAccent::orange;
 
 QString rawValue(PainelAccent accent);

@@ -1,3 +1,4 @@
+#include "Painel/ByteFormat.hpp"
 #include "Painel/ByteParts.hpp"
 #include "Painel/DotMatrixLogoCanvas.hpp"
 #include "Painel/LEDMeterCanvas.hpp"
@@ -20,6 +21,11 @@ TEST(ByteParts, SplitLikeTheEngineInBothLanguages) {
     QmlTestSupport::useLanguage("en");
     EXPECT_EQ(followed.spoken, "1,2 megabyte") << "no locale means the application's language";
     EXPECT_EQ(ByteParts::make(1'234'567).spoken, "1.2 megabytes");
+
+    // Views that write a size into prose get the same numbers.
+    EXPECT_EQ(ByteFormat::text(1'234'567, "pt-BR"), "1,2 MB");
+    EXPECT_EQ(ByteFormat::spoken(12'500'000'000, "pt-BR"), "12,5 gigabytes");
+    EXPECT_EQ(ByteFormat::parts(999, "en"), ByteParts::make(999, "en"));
 }
 
 TEST(LEDNumberCanvas, TakesBytesOrPartsAndMakesRoomForEachPiece) {
