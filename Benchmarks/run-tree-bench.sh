@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Times `zephrane-cli tree --json` against gdu, ncdu, du and the reference "syscall floor" walker
 # on the same trees in one run: wall time with hyperfine, peak memory with /usr/bin/time -v.
-# Prints one markdown table per tree, with each command's median as a ratio to the fastest floor.
+# Prints one markdown table per tree: each command's median wall time as a ratio to the fastest
+# floor walker, its CPU time (user + system, mean) as a ratio to the floor's least, and its peak RSS.
 #
 # Usage: Benchmarks/run-tree-bench.sh [RUNS] [TREE...]
 #   RUNS  timed runs per command after one warm-up (default 5).
@@ -64,14 +65,17 @@ for line in open(sys.argv[3]):
     name, _, kib = line.rstrip("\n").partition("|")
     rss[name] = int(kib) / 1024 if kib else float("nan")
 median = {r["command"]: statistics.median(r["times"]) for r in results}
-floors = {k: v for k, v in median.items() if k.startswith("floor-walk")}
-best = min(floors, key=floors.get)
+cpu = {r["command"]: r["user"] + r["system"] for r in results}
+floors = [k for k in median if k.startswith("floor-walk")]
+best = min(floors, key=median.get)
+bestCpu = min(cpu[k] for k in floors)
 print(f"\n{tree} (best floor: {best})\n")
-print("| command | median s | min-max s | x best floor | peak RSS MiB |")
-print("|---|---:|---:|---:|---:|")
+print("| command | median s | min-max s | x best floor | user+sys s | x floor (cpu) | peak RSS MiB |")
+print("|---|---:|---:|---:|---:|---:|---:|")
 for r in results:
     name = r["command"]
     print(f"| {name} | {median[name]:.3f} | {min(r['times']):.3f}-{max(r['times']):.3f} | "
-          f"{median[name] / floors[best]:.2f} | {rss.get(name, float('nan')):.1f} |")
+          f"{median[name] / median[best]:.2f} | {cpu[name]:.2f} | {cpu[name] / bestCpu:.2f} | "
+          f"{rss.get(name, float('nan')):.1f} |")
 PY
 done

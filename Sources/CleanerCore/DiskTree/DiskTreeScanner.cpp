@@ -480,10 +480,13 @@ DiskNode::Pointer DiskTreeScanner::scan(const Reporting& reporting, std::stop_to
 }
 
 DiskNode::Pointer DiskTreeScanner::scan(const Progress& progress, std::stop_token stop) const {
+    return scan(countOnly(progress), std::move(stop));
+}
+
+DiskTreeScanner::Reporting DiskTreeScanner::countOnly(const Progress& progress) {
     if (!progress)
-        return scan(Reporting{}, std::move(stop));
-    return scan(Reporting([&](std::int64_t count, const std::optional<std::string>&) { progress(count); }),
-                std::move(stop));
+        return {};
+    return [progress](std::int64_t count, const std::optional<std::string>&) { progress(count); };
 }
 
 } // namespace CleanerCore

@@ -31,6 +31,8 @@ struct DiskTreeScanner {
 
     // Threads that list folders: more than the cores, since a walk mostly waits on the disk.
     static int walkers();
+    // `progress` as a Reporting that drops the folder; empty when `progress` is.
+    static Reporting countOnly(const Progress& progress);
 
 private:
     struct Child;

@@ -81,10 +81,7 @@ DiskNode::Pointer ReferenceDiskTreeScanner::scan(const Reporting& reporting, std
 }
 
 DiskNode::Pointer ReferenceDiskTreeScanner::scan(const Progress& progress, std::stop_token stop) const {
-    if (!progress)
-        return scan(Reporting{}, std::move(stop));
-    return scan(Reporting([&](std::int64_t count, const std::optional<std::string>&) { progress(count); }),
-                std::move(stop));
+    return scan(DiskTreeScanner::countOnly(progress), std::move(stop));
 }
 
 DiskNode::Pointer ReferenceDiskTreeScanner::scanFolder(const std::string& path, int depth,

@@ -9,28 +9,13 @@ using DiskTreeChecks::malformation;
 
 namespace {
 
-DiskNode::Pointer leaf(const std::string& path, std::int64_t size) {
-    return std::make_shared<const DiskNode>(URL::file(path), std::nullopt, size, false, 1, false,
-                                            std::vector<DiskNode::Pointer>{});
-}
+using DiskTreeChecks::folder;
+using DiskTreeChecks::leaf;
 
-DiskNode::Pointer folder(const std::string& path, std::vector<DiskNode::Pointer> children) {
-    std::int64_t size = 0, count = 0;
-    for (const auto& child : children) {
-        size += child->size();
-        count += child->itemCount();
-    }
-    orderChildren(children);
-    return std::make_shared<const DiskNode>(URL::file(path), std::nullopt, size, true, count, false,
-                                            std::move(children));
-}
-
-// /r: a/ (x 300, y 200), ab/ (z 50), big 1000, and an aggregate of 3 items, 900 bytes.
+// /r: big 1000, a/ (x 300, y 200), ab/ (z 50), and an aggregate of 3 items, 900 bytes.
 DiskNode::Pointer sample() {
-    auto small = std::make_shared<const DiskNode>(URL::file("/r/.zephrane-small-items"), "3 small items", 900,
-                                                  false, 3, true, std::vector<DiskNode::Pointer>{});
-    return folder("/r", {folder("/r/a", {leaf("/r/a/x", 300), leaf("/r/a/y", 200)}),
-                         folder("/r/ab", {leaf("/r/ab/z", 50)}), leaf("/r/big", 1000), small});
+    return folder("/r", {leaf("/r/big", 1000), folder("/r/a", {leaf("/r/a/x", 300), leaf("/r/a/y", 200)}),
+                         folder("/r/ab", {leaf("/r/ab/z", 50)}), DiskTreeChecks::aggregate("/r", 900)});
 }
 
 } // namespace

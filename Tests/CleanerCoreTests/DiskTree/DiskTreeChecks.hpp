@@ -51,6 +51,28 @@ inline std::string malformation(const DiskNode& node) {
     return {};
 }
 
+// Hand-made nodes. A folder sums its children, kept in the order given.
+inline DiskNode::Pointer leaf(const std::string& path, std::int64_t size) {
+    return std::make_shared<const DiskNode>(CleanerCore::URL::file(path), std::nullopt, size, false, 1, false,
+                                            std::vector<DiskNode::Pointer>{});
+}
+
+inline DiskNode::Pointer folder(const std::string& path, std::vector<DiskNode::Pointer> children) {
+    std::int64_t size = 0, count = 0;
+    for (const auto& child : children) {
+        size += child->size();
+        count += child->itemCount();
+    }
+    return std::make_shared<const DiskNode>(CleanerCore::URL::file(path), std::nullopt, size, true, count,
+                                            false, std::move(children));
+}
+
+inline DiskNode::Pointer aggregate(const std::string& folderPath, std::int64_t size, std::int64_t count = 3) {
+    return std::make_shared<const DiskNode>(CleanerCore::URL::file(folderPath + "/.zephrane-small-items"),
+                                            std::to_string(count) + " small items", size, false, count, true,
+                                            std::vector<DiskNode::Pointer>{});
+}
+
 inline std::int64_t blocksOf(const std::filesystem::path& path) {
     struct stat info {};
     return ::lstat(path.c_str(), &info) == 0 ? static_cast<std::int64_t>(info.st_blocks) * 512 : -1;

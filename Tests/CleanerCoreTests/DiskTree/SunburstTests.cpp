@@ -1,5 +1,6 @@
 #include "CleanerCore/DiskTree/SunburstGeometry.hpp"
 #include "CleanerCore/DiskTree/SunburstLayout.hpp"
+#include "DiskTreeChecks.hpp"
 
 #include <gtest/gtest.h>
 
@@ -12,25 +13,9 @@ namespace {
 
 constexpr double pi = std::numbers::pi;
 
-DiskNode::Pointer file(const std::string& path, std::int64_t size) {
-    return std::make_shared<const DiskNode>(URL::file(path), std::nullopt, size, false, 1, false,
-                                            std::vector<DiskNode::Pointer>{});
-}
-
-DiskNode::Pointer folder(const std::string& path, std::vector<DiskNode::Pointer> children) {
-    std::int64_t size = 0, count = 0;
-    for (const auto& child : children) {
-        size += child->size();
-        count += child->itemCount();
-    }
-    return std::make_shared<const DiskNode>(URL::file(path), std::nullopt, size, true, count, false,
-                                            std::move(children));
-}
-
-DiskNode::Pointer aggregate(const std::string& folderPath, std::int64_t size) {
-    return std::make_shared<const DiskNode>(URL::file(folderPath + "/.zephrane-small-items"), "3 small items",
-                                            size, false, 3, true, std::vector<DiskNode::Pointer>{});
-}
+const auto file = DiskTreeChecks::leaf;
+using DiskTreeChecks::aggregate;
+using DiskTreeChecks::folder;
 
 SunburstSegment segment(int depth, double start, double end, const std::string& path = "/r/x") {
     return {file(path, 1), depth, start, end, path};
