@@ -1,5 +1,7 @@
 #include "Painel/DotMatrixLogoCanvas.hpp"
 
+#include "Painel/PainelCanvas.hpp"
+
 #include "Painel/PainelAnimation.hpp"
 
 #include <QPainter>
@@ -63,27 +65,18 @@ double DotMatrixLogoCanvas::brightness(int step, double litCount) {
 
 void DotMatrixLogoCanvas::setLitCount(qreal value) {
     value = std::clamp(value, 0.0, qreal(letters.size()));
-    if (value == lit)
-        return;
-    lit = value;
-    emit changed();
-    update();
+    if (PainelCanvas::store(this, lit, value))
+        emit changed();
 }
 
 void DotMatrixLogoCanvas::setOnColor(const QColor& value) {
-    if (value == on)
-        return;
-    on = value;
-    emit changed();
-    update();
+    if (PainelCanvas::store(this, on, value))
+        emit changed();
 }
 
 void DotMatrixLogoCanvas::setOffColor(const QColor& value) {
-    if (value == off)
-        return;
-    off = value;
-    emit changed();
-    update();
+    if (PainelCanvas::store(this, off, value))
+        emit changed();
 }
 
 void DotMatrixLogoCanvas::paint(QPainter* painter) {

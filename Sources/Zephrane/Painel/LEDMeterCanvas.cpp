@@ -1,5 +1,7 @@
 #include "Painel/LEDMeterCanvas.hpp"
 
+#include "Painel/PainelCanvas.hpp"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -19,11 +21,8 @@ int LEDMeterCanvas::litCells(double fraction, int cells) {
 }
 
 template <typename T> void LEDMeterCanvas::assign(T& field, const T& value) {
-    if (field == value)
-        return;
-    field = value;
-    emit changed();
-    update();
+    if (PainelCanvas::store(this, field, value))
+        emit changed();
 }
 
 void LEDMeterCanvas::setFraction(double value) {

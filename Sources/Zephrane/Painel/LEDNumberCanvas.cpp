@@ -1,5 +1,7 @@
 #include "Painel/LEDNumberCanvas.hpp"
 
+#include "Painel/PainelCanvas.hpp"
+
 #include <QFontMetricsF>
 #include <QLocale>
 #include <QPainter>
@@ -109,27 +111,18 @@ void LEDNumberCanvas::setUnitSize(qreal value) {
 }
 
 void LEDNumberCanvas::setColor(const QColor& value) {
-    if (value == digitColor)
-        return;
-    digitColor = value;
-    emit lookChanged();
-    update();
+    if (PainelCanvas::store(this, digitColor, value))
+        emit lookChanged();
 }
 
 void LEDNumberCanvas::setUnitColor(const QColor& value) {
-    if (value == unitTextColor)
-        return;
-    unitTextColor = value;
-    emit lookChanged();
-    update();
+    if (PainelCanvas::store(this, unitTextColor, value))
+        emit lookChanged();
 }
 
 void LEDNumberCanvas::setGhostColor(const QColor& value) {
-    if (value == ghost)
-        return;
-    ghost = value;
-    emit lookChanged();
-    update();
+    if (PainelCanvas::store(this, ghost, value))
+        emit lookChanged();
 }
 
 void LEDNumberCanvas::setFamily(const QString& value) {
@@ -147,11 +140,8 @@ void LEDNumberCanvas::setUnitFamily(const QString& value) {
 }
 
 void LEDNumberCanvas::setHorizontalAlignment(int value) {
-    if (value == alignment)
-        return;
-    alignment = value;
-    emit lookChanged();
-    update();
+    if (PainelCanvas::store(this, alignment, value))
+        emit lookChanged();
 }
 
 qreal LEDNumberCanvas::effectiveUnitSize() const {

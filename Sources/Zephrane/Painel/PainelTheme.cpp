@@ -100,41 +100,26 @@ int PainelTheme::duration(int milliseconds) const {
     return PainelAnimation::duration(milliseconds, lessMotion);
 }
 
-int PainelTheme::keyHeight(int size) const {
+namespace {
+
+struct KeyMetrics {
+    int height, fontSize, padding;
+};
+
+KeyMetrics keyMetrics(int size) {
     switch (PainelButtonSize::Value(size)) {
-    case PainelButtonSize::Small:
-        return 26;
-    case PainelButtonSize::Large:
-        return 44;
-    case PainelButtonSize::Regular:
-        break;
+    case PainelButtonSize::Small: return {26, 10, 10};
+    case PainelButtonSize::Large: return {44, 13, 22};
+    case PainelButtonSize::Regular: break;
     }
-    return 34;
+    return {34, 11, 16};
 }
 
-int PainelTheme::keyFontSize(int size) const {
-    switch (PainelButtonSize::Value(size)) {
-    case PainelButtonSize::Small:
-        return 10;
-    case PainelButtonSize::Large:
-        return 13;
-    case PainelButtonSize::Regular:
-        break;
-    }
-    return 11;
-}
+} // namespace
 
-int PainelTheme::keyPadding(int size) const {
-    switch (PainelButtonSize::Value(size)) {
-    case PainelButtonSize::Small:
-        return 10;
-    case PainelButtonSize::Large:
-        return 22;
-    case PainelButtonSize::Regular:
-        break;
-    }
-    return 16;
-}
+int PainelTheme::keyHeight(int size) const { return keyMetrics(size).height; }
+int PainelTheme::keyFontSize(int size) const { return keyMetrics(size).fontSize; }
+int PainelTheme::keyPadding(int size) const { return keyMetrics(size).padding; }
 
 void PainelTheme::rebuild() {
     colors = PainelPalette::make(chosenAccent, contrast);

@@ -1,5 +1,7 @@
 #include "Painel/ScanSweepCanvas.hpp"
 
+#include "Painel/PainelCanvas.hpp"
+
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -11,44 +13,29 @@ ScanSweepCanvas::ScanSweepCanvas(QQuickItem* parent) : QQuickPaintedItem(parent)
 
 void ScanSweepCanvas::setPhase(qreal value) {
     value = std::clamp(value, 0.0, 1.0);
-    if (value == position)
-        return;
-    position = value;
-    emit changed();
-    update();
+    if (PainelCanvas::store(this, position, value))
+        emit changed();
 }
 
 void ScanSweepCanvas::setBandWidth(qreal value) {
     value = std::clamp(value, 0.01, 1.0);
-    if (value == band)
-        return;
-    band = value;
-    emit changed();
-    update();
+    if (PainelCanvas::store(this, band, value))
+        emit changed();
 }
 
 void ScanSweepCanvas::setColor(const QColor& value) {
-    if (value == glow)
-        return;
-    glow = value;
-    emit changed();
-    update();
+    if (PainelCanvas::store(this, glow, value))
+        emit changed();
 }
 
 void ScanSweepCanvas::setLineColor(const QColor& value) {
-    if (value == lines)
-        return;
-    lines = value;
-    emit changed();
-    update();
+    if (PainelCanvas::store(this, lines, value))
+        emit changed();
 }
 
 void ScanSweepCanvas::setMirrored(bool value) {
-    if (value == mirror)
-        return;
-    mirror = value;
-    emit changed();
-    update();
+    if (PainelCanvas::store(this, mirror, value))
+        emit changed();
 }
 
 qreal ScanSweepCanvas::bandCentre() const {
