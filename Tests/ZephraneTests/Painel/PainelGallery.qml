@@ -126,7 +126,7 @@ Window {
                 radius: 6
                 color: PainelTheme.deep
                 clip: true
-                ScanSweep { anchors.fill: parent; running: false; sweep: 0.55 }
+                ScanSweep { objectName: "sweep"; anchors.fill: parent; running: false; sweep: 0.55 }
             }
         }
 
