@@ -275,5 +275,245 @@
         <source>free of %1</source>
         <translation>free of %1</translation>
     </message>
+    <message id="action.cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="confirm.title">
+        <source>Confirm cleanup</source>
+        <translation>Confirm cleanup</translation>
+    </message>
+    <message id="confirm.question.trash">
+        <source>Move the selected items to the Trash?</source>
+        <translation>Move the selected items to the Trash?</translation>
+    </message>
+    <message id="confirm.question.delete">
+        <source>Delete the selected items for good?</source>
+        <translation>Delete the selected items for good?</translation>
+    </message>
+    <message id="confirm.body.trash">
+        <source>They stay in the Trash until you empty it, so you can still put them back.</source>
+        <translation>They stay in the Trash until you empty it, so you can still put them back.</translation>
+    </message>
+    <message id="confirm.body.delete">
+        <source>They are removed at once and can't be recovered.</source>
+        <translation>They are removed at once and can't be recovered.</translation>
+    </message>
+    <message id="confirm.hint.trash">
+        <source>You can change where cleaned items go in Preferences.</source>
+        <translation>You can change where cleaned items go in Preferences.</translation>
+    </message>
+    <message id="confirm.hint.delete">
+        <source>Hold the key until it fills up to confirm.</source>
+        <translation>Hold the key until it fills up to confirm.</translation>
+    </message>
+    <message id="confirm.line">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="confirm.total">
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message id="confirm.destination">
+        <source>Destination: %1</source>
+        <translation>Destination: %1</translation>
+    </message>
+    <message id="confirm.clean">
+        <source>Clean</source>
+        <translation>Clean</translation>
+    </message>
+    <message id="hold.confirm.message">
+        <source>This can't be undone. Delete the selected items for good?</source>
+        <translation>This can't be undone. Delete the selected items for good?</translation>
+    </message>
+    <message id="phase.announce.scanning">
+        <source>Scanning</source>
+        <translation>Scanning</translation>
+    </message>
+    <message id="phase.announce.results">
+        <source>Scan finished, %1 found</source>
+        <translation>Scan finished, %1 found</translation>
+    </message>
+    <message id="phase.announce.cleaning">
+        <source>Cleaning</source>
+        <translation>Cleaning</translation>
+    </message>
+    <message id="phase.announce.success">
+        <source>Cleanup finished, %1 freed</source>
+        <translation>Cleanup finished, %1 freed</translation>
+    </message>
+    <message id="phase.announce.empty">
+        <source>Scan finished, nothing to clean</source>
+        <translation>Scan finished, nothing to clean</translation>
+    </message>
+    <message id="phase.announce.step">
+        <source>%1 done</source>
+        <translation>%1 done</translation>
+    </message>
+    <message id="phase.cleaning.total">
+        <source>Cleaning</source>
+        <translation>Cleaning</translation>
+    </message>
+    <message id="phase.duration.seconds">
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="phase.duration.minutes">
+        <source>%1 min %2 s</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message id="phase.empty.title">
+        <source>Nothing to clean</source>
+        <translation>Nothing to clean</translation>
+    </message>
+    <message id="phase.empty.zero">
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message id="phase.rescan">
+        <source>Scan again</source>
+        <translation>Scan again</translation>
+    </message>
+    <message id="phase.scan">
+        <source>Scan</source>
+        <translation>Scan</translation>
+    </message>
+    <message id="phase.scan.count">
+        <source>Found</source>
+        <translation>Found</translation>
+    </message>
+    <message id="phase.scan.elapsed">
+        <source>Elapsed</source>
+        <translation>Elapsed</translation>
+    </message>
+    <message id="phase.scan.items">
+        <source>Found: %1</source>
+        <translation>Found: %1</translation>
+    </message>
+    <message id="phase.scan.progress">
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+    <message id="phase.scan.progress.value">
+        <source>%1 of %2 steps</source>
+        <translation>%1 of %2 steps</translation>
+    </message>
+    <message id="phase.scan.stop">
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message id="phase.scan.unit.one">
+        <source>item</source>
+        <translation>item</translation>
+    </message>
+    <message id="phase.scan.unit.other">
+        <source>items</source>
+        <translation>items</translation>
+    </message>
+    <message id="phase.status.clean">
+        <source>All clean</source>
+        <translation>All clean</translation>
+    </message>
+    <message id="phase.status.cleaning">
+        <source>Cleaning</source>
+        <translation>Cleaning</translation>
+    </message>
+    <message id="phase.status.idle">
+        <source>Ready to scan</source>
+        <translation>Ready to scan</translation>
+    </message>
+    <message id="phase.status.scanning">
+        <source>Scanning</source>
+        <translation>Scanning</translation>
+    </message>
+    <message id="phase.step.scanning">
+        <source>Reading…</source>
+        <translation>Reading…</translation>
+    </message>
+    <message id="phase.step.waiting">
+        <source>Waiting</source>
+        <translation>Waiting</translation>
+    </message>
+    <message id="phase.unit.bytes">
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message id="phase.unit.kilobytes">
+        <source>%1 kilobytes</source>
+        <translation>%1 kilobytes</translation>
+    </message>
+    <message id="phase.unit.megabytes">
+        <source>%1 megabytes</source>
+        <translation>%1 megabytes</translation>
+    </message>
+    <message id="phase.unit.gigabytes">
+        <source>%1 gigabytes</source>
+        <translation>%1 gigabytes</translation>
+    </message>
+    <message id="phase.unit.terabytes">
+        <source>%1 terabytes</source>
+        <translation>%1 terabytes</translation>
+    </message>
+    <message id="phase.unit.petabytes">
+        <source>%1 petabytes</source>
+        <translation>%1 petabytes</translation>
+    </message>
+    <message id="phase.unit.exabytes">
+        <source>%1 exabytes</source>
+        <translation>%1 exabytes</translation>
+    </message>
+    <message id="success.status">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="success.title">
+        <source>Cleanup complete</source>
+        <translation>Cleanup complete</translation>
+    </message>
+    <message id="success.freed">
+        <source>Freed</source>
+        <translation>Freed</translation>
+    </message>
+    <message id="success.body.trash">
+        <source>The items are in the Trash. Empty it to get the space back.</source>
+        <translation>The items are in the Trash. Empty it to get the space back.</translation>
+    </message>
+    <message id="success.body.delete">
+        <source>The items were deleted for good.</source>
+        <translation>The items were deleted for good.</translation>
+    </message>
+    <message id="success.report">
+        <source>Report</source>
+        <translation>Report</translation>
+    </message>
+    <message id="success.report.ok">
+        <source>%1 · %2 removed</source>
+        <translation>%1 · %2 removed</translation>
+    </message>
+    <message id="success.report.time">
+        <source>Took %1</source>
+        <translation>Took %1</translation>
+    </message>
+    <message id="success.done">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="success.emptyTrash">
+        <source>Empty Trash</source>
+        <translation>Empty Trash</translation>
+    </message>
+    <message id="success.failures">
+        <source>Not removed: %1</source>
+        <translation>Not removed: %1</translation>
+    </message>
+    <message id="success.failures.collapsed">
+        <source>Show</source>
+        <translation>Show</translation>
+    </message>
+    <message id="success.failures.expanded">
+        <source>Hide</source>
+        <translation>Hide</translation>
+    </message>
 </context>
 </TS>

@@ -275,5 +275,245 @@
         <source>free of %1</source>
         <translation>livres de %1</translation>
     </message>
+    <message id="action.cancel">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="confirm.title">
+        <source>Confirm cleanup</source>
+        <translation>Confirmar limpeza</translation>
+    </message>
+    <message id="confirm.question.trash">
+        <source>Move the selected items to the Trash?</source>
+        <translation>Mover os itens selecionados para o Lixo?</translation>
+    </message>
+    <message id="confirm.question.delete">
+        <source>Delete the selected items for good?</source>
+        <translation>Apagar os itens selecionados para sempre?</translation>
+    </message>
+    <message id="confirm.body.trash">
+        <source>They stay in the Trash until you empty it, so you can still put them back.</source>
+        <translation>Eles ficam no Lixo até você esvaziá-lo, então ainda dá para recuperá-los.</translation>
+    </message>
+    <message id="confirm.body.delete">
+        <source>They are removed at once and can't be recovered.</source>
+        <translation>Eles são removidos na hora e não podem ser recuperados.</translation>
+    </message>
+    <message id="confirm.hint.trash">
+        <source>You can change where cleaned items go in Preferences.</source>
+        <translation>Você pode mudar para onde vão os itens limpos nas Preferências.</translation>
+    </message>
+    <message id="confirm.hint.delete">
+        <source>Hold the key until it fills up to confirm.</source>
+        <translation>Mantenha a tecla pressionada até ela encher para confirmar.</translation>
+    </message>
+    <message id="confirm.line">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="confirm.total">
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message id="confirm.destination">
+        <source>Destination: %1</source>
+        <translation>Destino: %1</translation>
+    </message>
+    <message id="confirm.clean">
+        <source>Clean</source>
+        <translation>Limpar</translation>
+    </message>
+    <message id="hold.confirm.message">
+        <source>This can't be undone. Delete the selected items for good?</source>
+        <translation>Isso não pode ser desfeito. Apagar os itens selecionados para sempre?</translation>
+    </message>
+    <message id="phase.announce.scanning">
+        <source>Scanning</source>
+        <translation>Verificando</translation>
+    </message>
+    <message id="phase.announce.results">
+        <source>Scan finished, %1 found</source>
+        <translation>Verificação concluída, %1 encontrados</translation>
+    </message>
+    <message id="phase.announce.cleaning">
+        <source>Cleaning</source>
+        <translation>Limpando</translation>
+    </message>
+    <message id="phase.announce.success">
+        <source>Cleanup finished, %1 freed</source>
+        <translation>Limpeza concluída, %1 liberados</translation>
+    </message>
+    <message id="phase.announce.empty">
+        <source>Scan finished, nothing to clean</source>
+        <translation>Verificação concluída, nada para limpar</translation>
+    </message>
+    <message id="phase.announce.step">
+        <source>%1 done</source>
+        <translation>%1 concluído</translation>
+    </message>
+    <message id="phase.cleaning.total">
+        <source>Cleaning</source>
+        <translation>Limpando</translation>
+    </message>
+    <message id="phase.duration.seconds">
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="phase.duration.minutes">
+        <source>%1 min %2 s</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message id="phase.empty.title">
+        <source>Nothing to clean</source>
+        <translation>Nada para limpar</translation>
+    </message>
+    <message id="phase.empty.zero">
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message id="phase.rescan">
+        <source>Scan again</source>
+        <translation>Verificar de novo</translation>
+    </message>
+    <message id="phase.scan">
+        <source>Scan</source>
+        <translation>Verificar</translation>
+    </message>
+    <message id="phase.scan.count">
+        <source>Found</source>
+        <translation>Encontrados</translation>
+    </message>
+    <message id="phase.scan.elapsed">
+        <source>Elapsed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message id="phase.scan.items">
+        <source>Found: %1</source>
+        <translation>Encontrados: %1</translation>
+    </message>
+    <message id="phase.scan.progress">
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message id="phase.scan.progress.value">
+        <source>%1 of %2 steps</source>
+        <translation>%1 de %2 etapas</translation>
+    </message>
+    <message id="phase.scan.stop">
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message id="phase.scan.unit.one">
+        <source>item</source>
+        <translation>item</translation>
+    </message>
+    <message id="phase.scan.unit.other">
+        <source>items</source>
+        <translation>itens</translation>
+    </message>
+    <message id="phase.status.clean">
+        <source>All clean</source>
+        <translation>Tudo limpo</translation>
+    </message>
+    <message id="phase.status.cleaning">
+        <source>Cleaning</source>
+        <translation>Limpando</translation>
+    </message>
+    <message id="phase.status.idle">
+        <source>Ready to scan</source>
+        <translation>Pronto para verificar</translation>
+    </message>
+    <message id="phase.status.scanning">
+        <source>Scanning</source>
+        <translation>Verificando</translation>
+    </message>
+    <message id="phase.step.scanning">
+        <source>Reading…</source>
+        <translation>Lendo…</translation>
+    </message>
+    <message id="phase.step.waiting">
+        <source>Waiting</source>
+        <translation>Aguardando</translation>
+    </message>
+    <message id="phase.unit.bytes">
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message id="phase.unit.kilobytes">
+        <source>%1 kilobytes</source>
+        <translation>%1 quilobytes</translation>
+    </message>
+    <message id="phase.unit.megabytes">
+        <source>%1 megabytes</source>
+        <translation>%1 megabytes</translation>
+    </message>
+    <message id="phase.unit.gigabytes">
+        <source>%1 gigabytes</source>
+        <translation>%1 gigabytes</translation>
+    </message>
+    <message id="phase.unit.terabytes">
+        <source>%1 terabytes</source>
+        <translation>%1 terabytes</translation>
+    </message>
+    <message id="phase.unit.petabytes">
+        <source>%1 petabytes</source>
+        <translation>%1 petabytes</translation>
+    </message>
+    <message id="phase.unit.exabytes">
+        <source>%1 exabytes</source>
+        <translation>%1 exabytes</translation>
+    </message>
+    <message id="success.status">
+        <source>Done</source>
+        <translation>Concluído</translation>
+    </message>
+    <message id="success.title">
+        <source>Cleanup complete</source>
+        <translation>Limpeza concluída</translation>
+    </message>
+    <message id="success.freed">
+        <source>Freed</source>
+        <translation>Liberado</translation>
+    </message>
+    <message id="success.body.trash">
+        <source>The items are in the Trash. Empty it to get the space back.</source>
+        <translation>Os itens estão no Lixo. Esvazie-o para recuperar o espaço.</translation>
+    </message>
+    <message id="success.body.delete">
+        <source>The items were deleted for good.</source>
+        <translation>Os itens foram apagados para sempre.</translation>
+    </message>
+    <message id="success.report">
+        <source>Report</source>
+        <translation>Relatório</translation>
+    </message>
+    <message id="success.report.ok">
+        <source>%1 · %2 removed</source>
+        <translation>%1 · %2 removidos</translation>
+    </message>
+    <message id="success.report.time">
+        <source>Took %1</source>
+        <translation>Levou %1</translation>
+    </message>
+    <message id="success.done">
+        <source>Done</source>
+        <translation>Concluir</translation>
+    </message>
+    <message id="success.emptyTrash">
+        <source>Empty Trash</source>
+        <translation>Esvaziar o Lixo</translation>
+    </message>
+    <message id="success.failures">
+        <source>Not removed: %1</source>
+        <translation>Não removidos: %1</translation>
+    </message>
+    <message id="success.failures.collapsed">
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message id="success.failures.expanded">
+        <source>Hide</source>
+        <translation>Ocultar</translation>
+    </message>
 </context>
 </TS>

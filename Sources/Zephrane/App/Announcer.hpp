@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include <functional>
+
+// Speaks a short text to assistive technology. Stateless for its users: everything that announces
+// goes through announce(), and tests replace where the words go with installSink().
+class Announcer : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    using Sink = std::function<void(const QString&)>;
+    explicit Announcer(QObject* parent = nullptr) : QObject(parent) {}
+
+    static void announce(const QString& text);
+    Q_INVOKABLE void say(const QString& text) { announce(text); }
+
+    // Replaces the destination of announcements and returns the previous one; an empty sink
+    // restores the platform's.
+    static Sink installSink(Sink sink);
+};

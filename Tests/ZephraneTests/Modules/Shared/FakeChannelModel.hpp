@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Modules/Shared/ModulePhaseModel.hpp"
+
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+
+// A channel whose scans play a plan: each unit "finds" the categories given to it. Units can be
+// held at a gate so a test can act while one is under way.
+class FakeChannelModel : public ModulePhaseModel {
+public:
+    struct Gate {
+        void open();
+        void wait();
+
+    private:
+        std::mutex mutex;
+        std::condition_variable changed;
+        bool isOpen = false;
+    };
+
+    struct PlannedUnit {
+        QString id;
+        QString title;
+        std::vector<CleanupCategory> found;
+    };
+
+    std::vector<PlannedUnit> plan;
+    std::shared_ptr<Gate> gate; // units wait here when set
+    std::vector<CleanupCategory> results;
+
+    using ModulePhaseModel::ModulePhaseModel;
+
+protected:
+    std::vector<ScanUnit> scanUnits() override;
+    void adoptResults(std::vector<std::any> payloads) override;
+    std::vector<CleanupCategory> categories() const override { return results; }
+    void dropRemoved(const std::unordered_set<CleanerCore::URL>& removed) override;
+};
+
+// One category of items named under `folder`, each `size` bytes.
+CleanupCategory fakeCategory(const QString& id, const std::string& folder,
+                             std::initializer_list<const char*> names, std::int64_t size = 1000,
+                             bool selectedByDefault = true);
