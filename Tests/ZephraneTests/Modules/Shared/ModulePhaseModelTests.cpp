@@ -210,7 +210,7 @@ TEST_F(ModulePhaseLife, WhenEveryItemFailsTheReportStillComesAndTheItemsStaySele
     EXPECT_EQ(model.selection(), selected);
 }
 
-TEST_F(ModulePhaseLife, DISABLED_CleaningReportsPerCategoryAtScanSizesAndAGoneItemCountsAsRemoved) {
+TEST_F(ModulePhaseLife, CleaningReportsPerCategoryAtScanSizesAndAGoneItemCountsAsRemoved) {
     tree.file("c/a", 10);
     tree.file("keep/k", 10);
     // "l/x" was never made: it is gone before the removal.
