@@ -515,5 +515,81 @@
         <source>Hide</source>
         <translation>Hide</translation>
     </message>
+    <message id="junk.idle.message">
+        <source>Caches, logs, build leftovers and unfinished downloads pile up in your home folder. Scan to see what can go.</source>
+        <translation>Caches, logs, build leftovers and unfinished downloads pile up in your home folder. Scan to see what can go.</translation>
+    </message>
+    <message id="junk.empty.message">
+        <source>No junk was found in your home folder.</source>
+        <translation>No junk was found in your home folder.</translation>
+    </message>
+    <message id="junk.confirm.note">
+        <source>Applications rebuild their caches as needed; the first launch afterwards may be a little slower.</source>
+        <translation>Applications rebuild their caches as needed; the first launch afterwards may be a little slower.</translation>
+    </message>
+    <message id="junk.found">
+        <source>Found</source>
+        <translation>Found</translation>
+    </message>
+    <message id="junk.summary">
+        <source>Files that applications and tools can do without. Open a category to choose item by item.</source>
+        <translation>Files that applications and tools can do without. Open a category to choose item by item.</translation>
+    </message>
+    <message id="junk.selected">
+        <source>%1 selected</source>
+        <translation>%1 selected</translation>
+    </message>
+    <message id="junk.selected.detail">
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message id="junk.category.count.one">
+        <source>%1 category</source>
+        <translation>%1 category</translation>
+    </message>
+    <message id="junk.category.count.other">
+        <source>%1 categories</source>
+        <translation>%1 categories</translation>
+    </message>
+    <message id="junk.categories">
+        <source>Categories</source>
+        <translation>Categories</translation>
+    </message>
+    <message id="junk.clean">
+        <source>Clean</source>
+        <translation>Clean</translation>
+    </message>
+    <message id="junk.destination">
+        <source>Destination</source>
+        <translation>Destination</translation>
+    </message>
+    <message id="junk.tag.review">
+        <source>Review</source>
+        <translation>Review</translation>
+    </message>
+    <message id="junk.category.items">
+        <source>Holds %1</source>
+        <translation>Holds %1</translation>
+    </message>
+    <message id="junk.category.mixed">
+        <source>partly selected</source>
+        <translation>partly selected</translation>
+    </message>
+    <message id="junk.category.expand">
+        <source>Show items</source>
+        <translation>Show items</translation>
+    </message>
+    <message id="junk.category.collapse">
+        <source>Hide items</source>
+        <translation>Hide items</translation>
+    </message>
+    <message id="destination.trash">
+        <source>Trash</source>
+        <translation>Trash</translation>
+    </message>
+    <message id="destination.delete">
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
 </context>
 </TS>

@@ -515,5 +515,81 @@
         <source>Hide</source>
         <translation>Ocultar</translation>
     </message>
+    <message id="junk.idle.message">
+        <source>Caches, logs, build leftovers and unfinished downloads pile up in your home folder. Scan to see what can go.</source>
+        <translation>Caches, logs, restos de compilação e downloads inacabados se acumulam na sua pasta pessoal. Analise para ver o que pode sair.</translation>
+    </message>
+    <message id="junk.empty.message">
+        <source>No junk was found in your home folder.</source>
+        <translation>Nenhum resíduo foi encontrado na sua pasta pessoal.</translation>
+    </message>
+    <message id="junk.confirm.note">
+        <source>Applications rebuild their caches as needed; the first launch afterwards may be a little slower.</source>
+        <translation>Os aplicativos recriam seus caches quando precisam; a próxima abertura pode ser um pouco mais lenta.</translation>
+    </message>
+    <message id="junk.found">
+        <source>Found</source>
+        <translation>Encontrado</translation>
+    </message>
+    <message id="junk.summary">
+        <source>Files that applications and tools can do without. Open a category to choose item by item.</source>
+        <translation>Arquivos que aplicativos e ferramentas dispensam. Abra uma categoria para escolher item por item.</translation>
+    </message>
+    <message id="junk.selected">
+        <source>%1 selected</source>
+        <translation>%1 selecionados</translation>
+    </message>
+    <message id="junk.selected.detail">
+        <source>%1 in %2</source>
+        <translation>%1 em %2</translation>
+    </message>
+    <message id="junk.category.count.one">
+        <source>%1 category</source>
+        <translation>%1 categoria</translation>
+    </message>
+    <message id="junk.category.count.other">
+        <source>%1 categories</source>
+        <translation>%1 categorias</translation>
+    </message>
+    <message id="junk.categories">
+        <source>Categories</source>
+        <translation>Categorias</translation>
+    </message>
+    <message id="junk.clean">
+        <source>Clean</source>
+        <translation>Limpar</translation>
+    </message>
+    <message id="junk.destination">
+        <source>Destination</source>
+        <translation>Destino</translation>
+    </message>
+    <message id="junk.tag.review">
+        <source>Review</source>
+        <translation>Revisar</translation>
+    </message>
+    <message id="junk.category.items">
+        <source>Holds %1</source>
+        <translation>Contém %1</translation>
+    </message>
+    <message id="junk.category.mixed">
+        <source>partly selected</source>
+        <translation>parcialmente selecionada</translation>
+    </message>
+    <message id="junk.category.expand">
+        <source>Show items</source>
+        <translation>Mostrar itens</translation>
+    </message>
+    <message id="junk.category.collapse">
+        <source>Hide items</source>
+        <translation>Ocultar itens</translation>
+    </message>
+    <message id="destination.trash">
+        <source>Trash</source>
+        <translation>Lixo</translation>
+    </message>
+    <message id="destination.delete">
+        <source>Delete</source>
+        <translation>Apagar</translation>
+    </message>
 </context>
 </TS>

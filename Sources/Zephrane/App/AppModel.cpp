@@ -2,7 +2,9 @@
 
 #include <QVariantMap>
 
-AppModel::AppModel(QObject* parent) : QObject(parent) {}
+AppModel::AppModel(QObject* parent) : QObject(parent), junkModel(new SystemJunkModel(this)) {
+    junkModel->actions()->setEmptyTrash([this] { open(Channel::trash); });
+}
 
 void AppModel::open(Channel channel) {
     if (channel == current)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "App/Channel.hpp"
+#include "Modules/Junk/SystemJunkModel.hpp"
 
 #include <QDateTime>
 #include <QObject>
@@ -16,6 +17,7 @@ class AppModel : public QObject {
     QML_UNCREATABLE("AppModel is made once, by the program")
     Q_PROPERTY(int selection READ selectionRaw WRITE openRaw NOTIFY selectionChanged)
     Q_PROPERTY(QVariantList channels READ channels CONSTANT)
+    Q_PROPERTY(SystemJunkModel* junk READ junk CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
@@ -34,6 +36,8 @@ public:
     // One entry per channel in column order: raw, title, shortLabel, keyEquivalent, accessibilityName.
     QVariantList channels() const;
 
+    SystemJunkModel* junk() const { return junkModel; }
+
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
     void setSmartScanStartedAt(const QDateTime& value);
@@ -44,6 +48,9 @@ signals:
     void smartScanChanged();
 
 private:
+    // The channels' models, in the order they are made.
+    SystemJunkModel* junkModel;
+
     Channel current = Channel::home;
     QDateTime scanStarted;
     QDateTime scanFinished;

@@ -1,0 +1,180 @@
+#include "App/AppModel.hpp"
+#include "App/MainWindow.hpp"
+#include "JunkHome.hpp"
+#include "Modules/Junk/SystemJunkModel.hpp"
+#include "Support/QmlTestSupport.hpp"
+
+#include <QDir>
+#include <QProcess>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* childLanguage = "ZEPHRANE_JUNK_WINDOW_LANGUAGE";
+
+// The test program's home, which main() made temporary; the junk fixture is built right in it.
+fs::path testHome() {
+    const fs::path home = QDir::homePath().toStdString();
+    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
+        std::abort(); // never anywhere near a real home
+    return home;
+}
+
+fs::path trashFolder() {
+    return fs::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
+}
+
+void removeFixture() {
+    const fs::path home = testHome();
+    for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
+        fs::remove_all(home / top);
+    fs::remove_all(trashFolder());
+}
+
+// The visible item of that name, searched through the visual tree (loaded screens are not QObject
+// children of their loaders).
+QQuickItem* findVisible(QQuickItem* root, const QString& name) {
+    for (QQuickItem* child : root->childItems()) {
+        if (child->objectName() == name && child->isVisible())
+            return child;
+        if (QQuickItem* found = findVisible(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+QQuickItem* find(QQuickWindow* window, const QString& name) {
+    QQuickItem* item = findVisible(window->contentItem(), name);
+    EXPECT_NE(item, nullptr) << name.toStdString();
+    return item;
+}
+
+void click(QQuickWindow* window, QQuickItem* item) {
+    ASSERT_NE(item, nullptr);
+    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
+}
+
+void waitFor(const std::function<bool()>& condition) {
+    ASSERT_TRUE(QTest::qWaitFor(condition, 20000));
+    QmlTestSupport::settle(120);
+}
+
+// The whole life of the channel in the real window, photographed at each screen: idle, scanning,
+// results, confirmation, success; the removed items end up in the freedesktop trash.
+void runJunkChannel(const QString& language) {
+    removeFixture();
+    TestSupport::buildJunkHome(testHome());
+    QmlTestSupport::WarningCollector warnings;
+    {
+        AppModel model;
+        SystemJunkModel& junk = *model.junk();
+        junk.setRunningBundleIDs([] { return std::set<std::string>{"com.example.app"}; });
+        QQmlApplicationEngine engine;
+        QQuickWindow* window = MainWindow::load(engine, model);
+        ASSERT_NE(window, nullptr);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+        const QString shot = QStringLiteral("junk-%1-").arg(language);
+
+        // The automatic scan of a first visit, stopped at once, leaves the channel idle.
+        junk.scanOnFirstVisit();
+        junk.stop();
+        waitFor([&] { return junk.phase() == ModulePhase::idle; });
+        model.open(Channel::junk);
+        QmlTestSupport::settle(120);
+        EXPECT_EQ(junk.phase(), ModulePhase::idle) << "a stopped automatic scan is not made again";
+        QmlTestSupport::saveScreenshot(*window, shot + "1-idle");
+
+        click(window, find(window, "scanKey"));
+        EXPECT_EQ(junk.phase(), ModulePhase::scanning);
+        QmlTestSupport::saveScreenshot(*window, shot + "2-scanning");
+        waitFor([&] { return junk.phase() == ModulePhase::ready; });
+
+        // Trim the selection from the keyboard: open the caches, turn the developer caches off.
+        QQuickItem* caches = find(window, "junkRow-user-caches");
+        QQuickItem* devCaches = find(window, "junkRow-dev-caches");
+        ASSERT_TRUE(caches && devCaches);
+        caches->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_Return);
+        devCaches->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_Space);
+        QmlTestSupport::settle(120);
+        EXPECT_NE(findVisible(caches, "itemCheck"), nullptr) << "Return opens the category";
+        const auto& devGroup = junk.groups()[3];
+        EXPECT_EQ(junk.selectionState(devGroup), (SystemJunkModel::SelectionState{false, false}));
+        QmlTestSupport::saveScreenshot(*window, shot + "3-results");
+
+        click(window, find(window, "cleanKey"));
+        QmlTestSupport::settle(120);
+        EXPECT_EQ(junk.painelPhase(), PainelPhase::confirm);
+        QmlTestSupport::saveScreenshot(*window, shot + "4-confirm");
+
+        const std::size_t selected = junk.selectedItems().size();
+        click(window, find(window, "confirmKey"));
+        waitFor([&] { return junk.phase() == ModulePhase::done; });
+        QmlTestSupport::saveScreenshot(*window, shot + "5-success");
+
+        ASSERT_TRUE(junk.outcome());
+        EXPECT_TRUE(junk.outcome()->failures.empty());
+        EXPECT_EQ(junk.lastReport()->removed.size(), selected);
+        const fs::path home = testHome(), trash = trashFolder();
+        EXPECT_TRUE(fs::exists(trash / "files/com.example.tool"));
+        EXPECT_TRUE(fs::exists(trash / "info/com.example.tool.trashinfo"));
+        EXPECT_TRUE(fs::exists(trash / "files/Report.PART"));
+        std::ifstream info(trash / "info/Report.PART.trashinfo");
+        const std::string infoText((std::istreambuf_iterator<char>(info)), {});
+        EXPECT_NE(infoText.find("Path=" + (home / "Downloads/Report.PART").string()), std::string::npos);
+        EXPECT_NE(infoText.find("DeletionDate="), std::string::npos);
+        EXPECT_FALSE(fs::exists(home / "Library/Caches/com.example.tool"));
+        // What was left off stays: the open application's cache, the developer caches, ~/.cache.
+        EXPECT_TRUE(fs::exists(home / "Library/Caches/com.example.app"));
+        EXPECT_TRUE(fs::exists(home / ".npm/_cacache"));
+        EXPECT_TRUE(fs::exists(home / ".cache/pip"));
+
+        click(window, find(window, "doneKey"));
+        QmlTestSupport::settle(120);
+        EXPECT_EQ(junk.painelPhase(), PainelPhase::results);
+        QmlTestSupport::saveScreenshot(*window, shot + "6-after");
+        window->close();
+    }
+    const QStringList seen = warnings.take();
+    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    removeFixture();
+}
+
+} // namespace
+
+TEST(JunkChannelWindow, ScanTrimConfirmCleanToTrashAndReport) {
+    QmlTestSupport::useLanguage("en");
+    runJunkChannel("en");
+}
+
+// The rules' texts keep the language of their first use, so Portuguese gets a process of its own.
+TEST(JunkChannelWindow, PortugueseInAProcessOfItsOwn) {
+    if (qEnvironmentVariableIsSet(childLanguage)) {
+        QmlTestSupport::useLanguage("pt-BR");
+        runJunkChannel("pt-BR");
+        QmlTestSupport::useLanguage("en");
+        return;
+    }
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(childLanguage, "pt-BR");
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::MergedChannels);
+    child.start(QCoreApplication::applicationFilePath(),
+                {"--gtest_filter=JunkChannelWindow.PortugueseInAProcessOfItsOwn"});
+    ASSERT_TRUE(child.waitForFinished(120000));
+    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+}

@@ -1,0 +1,184 @@
+#include "CleanerCore/Display/CoreL10n.hpp"
+#include "JunkHome.hpp"
+#include "Modules/Junk/JunkCategoryList.hpp"
+#include "Modules/Junk/SystemJunkModel.hpp"
+#include "TempTree.hpp"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using CleanerCore::JunkGroup;
+using CleanerCore::JunkRule;
+using CleanerCore::URL;
+using testing::ElementsAre;
+namespace fs = std::filesystem;
+
+namespace {
+
+using State = SystemJunkModel::SelectionState;
+
+void finish(const QFuture<void>& future) {
+    ASSERT_TRUE(QTest::qWaitFor([&] { return future.isFinished(); }, 20000));
+    QCoreApplication::processEvents();
+}
+
+QVariant role(const JunkCategoryList& rows, int row, JunkCategoryList::Role which) {
+    return rows.data(rows.index(row), which);
+}
+
+int rowOf(const JunkCategoryList& rows, const QString& ruleId) {
+    for (int row = 0; row < rows.rowCount(); ++row)
+        if (role(rows, row, JunkCategoryList::RuleIdRole).toString() == ruleId)
+            return row;
+    return -1;
+}
+
+struct JunkModel : testing::Test {
+    TestSupport::TempTree tree;
+    SystemJunkModel model;
+    JunkCategoryList& rows = *model.categoryList();
+    QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
+    int runningReads = 0;
+
+    void SetUp() override {
+        TestSupport::buildJunkHome(tree.root());
+        model.setHome(URL::file(tree.root().string()));
+        model.setRunningBundleIDs([this] {
+            ++runningReads;
+            return std::set<std::string>{"com.example.app"};
+        });
+    }
+    const JunkGroup& group(const std::string& id) const {
+        return *std::ranges::find(model.groups(), id, &JunkGroup::id);
+    }
+};
+
+} // namespace
+
+TEST_F(JunkModel, ScanTicksOffEachRuleAndPreselectsWhatTheRulesSay) {
+    std::vector<QString> paths;
+    QObject::connect(&model, &ModulePhaseModel::progressChanged, [&] {
+        if (const auto& path = model.progress().currentPath; path && (paths.empty() || paths.back() != *path))
+            paths.push_back(*path);
+    });
+    fs::remove_all(tree.path("Library/Logs"));
+    finish(model.scan());
+
+    EXPECT_EQ(model.phase(), ModulePhase::ready);
+    EXPECT_EQ(runningReads, 1) << "the running applications are read once per scan";
+    ASSERT_EQ(model.groups().size(), 6u);
+    const auto& steps = model.progress().steps;
+    ASSERT_EQ(steps.size(), 6u);
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        EXPECT_EQ(steps[i].id.toStdString(), JunkRule::defaults()[i].id);
+        EXPECT_EQ(steps[i].title.toStdString(), JunkRule::defaults()[i].title);
+        EXPECT_EQ(steps[i].state, ScanStep::State::done(model.groups()[i].totalSize()));
+    }
+    // A rule with nothing found keeps its tile, done with 0 bytes, but gets no row.
+    EXPECT_EQ(steps[1].state, ScanStep::State::done(0));
+    EXPECT_EQ(rows.rowCount(), 5);
+    EXPECT_EQ(rowOf(rows, "user-logs"), -1);
+    EXPECT_EQ(model.progress().currentPath, std::nullopt);
+    EXPECT_THAT(paths, testing::IsSupersetOf({QString("~/Library/Caches"), QString("~/.npm/_cacache"),
+                                              QString("~/Downloads")}));
+
+    // The open application's cache is listed with its note, off, and its category shows mixed.
+    const JunkGroup& caches = group("user-caches");
+    EXPECT_EQ(caches.items[0].note, CleanerCore::CoreL10n::string("core.note.appOpen"));
+    EXPECT_FALSE(model.selection().contains(caches.items[0].url));
+    EXPECT_TRUE(model.selection().contains(caches.items[1].url));
+    EXPECT_EQ(model.selectionState(caches), (State{false, true}));
+    const int cacheRow = rowOf(rows, "user-caches");
+    EXPECT_TRUE(role(rows, cacheRow, JunkCategoryList::IsMixedRole).toBool());
+    const QVariantList items = role(rows, cacheRow, JunkCategoryList::ItemsRole).toList();
+    EXPECT_EQ(items[0].toMap()["subtitle"], QString::fromStdString(*caches.items[0].note));
+    EXPECT_EQ(items[1].toMap()["subtitle"], "~/Library/Caches/com.example.tool");
+
+    // The largest category fills its meter; the others are measured against it.
+    const JunkGroup& largest = *std::ranges::max_element(model.groups(), {}, &JunkGroup::totalSize);
+    EXPECT_DOUBLE_EQ(
+        role(rows, rowOf(rows, QString::fromStdString(largest.id())), JunkCategoryList::FractionRole)
+            .toDouble(),
+        1.0);
+    EXPECT_DOUBLE_EQ(role(rows, rowOf(rows, "dev-caches"), JunkCategoryList::FractionRole).toDouble(),
+                     double(group("dev-caches").totalSize()) / double(largest.totalSize()));
+}
+
+TEST_F(JunkModel, RulesLeftOffStartOffWithTheirTagAndTurnOnWhole) {
+    finish(model.scan());
+    const JunkGroup& dot = group("dot-cache");
+    EXPECT_EQ(model.selectionState(dot), (State{false, false}));
+    const int dotRow = rowOf(rows, "dot-cache");
+    EXPECT_EQ(role(rows, dotRow, JunkCategoryList::TagRole), "junk.tag.review");
+    EXPECT_EQ(role(rows, rowOf(rows, "user-caches"), JunkCategoryList::TagRole), "junk.tag.review");
+    EXPECT_EQ(role(rows, rowOf(rows, "xcode"), JunkCategoryList::TagRole), "");
+
+    model.toggleGroup("dot-cache");
+    EXPECT_EQ(model.selectionState(dot), (State{true, false}));
+    EXPECT_TRUE(role(rows, dotRow, JunkCategoryList::IsOnRole).toBool());
+    model.toggleGroup("dot-cache");
+    EXPECT_EQ(model.selectionState(dot), (State{false, false}));
+
+    // A mixed category turns on whole; one item turned off makes it mixed again.
+    model.toggleGroup("user-caches");
+    EXPECT_EQ(model.selectionState(group("user-caches")), (State{true, false}));
+    model.setSelected(QString::fromStdString(group("user-caches").items[2].url.path()), false);
+    EXPECT_EQ(model.selectionState(group("user-caches")), (State{false, true}));
+    EXPECT_FALSE(role(rows, rowOf(rows, "user-caches"), JunkCategoryList::ItemsRole)
+                     .toList()[2]
+                     .toMap()["selected"]
+                     .toBool());
+}
+
+TEST_F(JunkModel, StopInAFirstScanLeavesNothingBehind) {
+    const QFuture<void> running = model.scan();
+    model.stop();
+    finish(running);
+    EXPECT_EQ(model.phase(), ModulePhase::idle);
+    EXPECT_TRUE(model.groups().empty());
+    EXPECT_EQ(rows.rowCount(), 0);
+    EXPECT_FALSE(model.hasScanned());
+}
+
+TEST(JunkModelCleaning, AfterAPartialFailureTheRowsShowWhatRemains) {
+    TestSupport::TempTree tree;
+    tree.file("Stuff/a.tmp", 40000);
+    tree.file("Stuff/b.tmp", 20000);
+    tree.file("Library/Preferences/keep.plist", 4000);
+    const std::vector<JunkRule> rules{
+        {"stuff", "Stuff", "", "", {JunkRule::Source::contents("Stuff")}, true},
+        // The home's own Library folder: proposed by this rule, refused by the guard at removal.
+        {"library", "Library", "", "", {JunkRule::Source::folder("Library")}, true},
+    };
+    SystemJunkModel model(rules);
+    model.setHome(URL::file(tree.root().string()));
+    model.setRunningBundleIDs([] { return std::set<std::string>{}; });
+    finish(model.scan());
+    ASSERT_EQ(model.selectedItems().size(), 3u);
+    const std::int64_t stuffBytes = model.groups()[0].totalSize();
+
+    finish(model.clean(CleanerCore::RemovalMode::trash));
+    EXPECT_EQ(model.phase(), ModulePhase::done);
+    ASSERT_TRUE(model.outcome());
+    ASSERT_EQ(model.outcome()->lines.size(), 1u);
+    EXPECT_EQ(model.outcome()->lines[0].id, "stuff");
+    EXPECT_EQ(model.outcome()->lines[0].count, 2);
+    EXPECT_EQ(model.outcome()->lines[0].bytes, stuffBytes);
+    ASSERT_EQ(model.outcome()->failures.size(), 1u);
+    EXPECT_TRUE(fs::exists(tree.path("Library/Preferences/keep.plist")));
+    EXPECT_FALSE(fs::exists(tree.path("Stuff/a.tmp")));
+
+    // Both groups stay; the emptied one loses its row, the refused item stays listed and selected.
+    ASSERT_EQ(model.groups().size(), 2u);
+    EXPECT_TRUE(model.groups()[0].items.empty());
+    model.done();
+    EXPECT_EQ(model.painelPhase(), PainelPhase::results);
+    const JunkCategoryList& rows = *model.categoryList();
+    ASSERT_EQ(rows.rowCount(), 1);
+    EXPECT_EQ(role(rows, 0, JunkCategoryList::RuleIdRole), "library");
+    EXPECT_EQ(model.selectionState(model.groups()[1]), (State{true, false}));
+    EXPECT_EQ(model.selection().size(), 1u);
+}
