@@ -435,34 +435,6 @@
         <source>Waiting</source>
         <translation>Waiting</translation>
     </message>
-    <message id="phase.unit.bytes">
-        <source>%1 bytes</source>
-        <translation>%1 bytes</translation>
-    </message>
-    <message id="phase.unit.kilobytes">
-        <source>%1 kilobytes</source>
-        <translation>%1 kilobytes</translation>
-    </message>
-    <message id="phase.unit.megabytes">
-        <source>%1 megabytes</source>
-        <translation>%1 megabytes</translation>
-    </message>
-    <message id="phase.unit.gigabytes">
-        <source>%1 gigabytes</source>
-        <translation>%1 gigabytes</translation>
-    </message>
-    <message id="phase.unit.terabytes">
-        <source>%1 terabytes</source>
-        <translation>%1 terabytes</translation>
-    </message>
-    <message id="phase.unit.petabytes">
-        <source>%1 petabytes</source>
-        <translation>%1 petabytes</translation>
-    </message>
-    <message id="phase.unit.exabytes">
-        <source>%1 exabytes</source>
-        <translation>%1 exabytes</translation>
-    </message>
     <message id="success.status">
         <source>Done</source>
         <translation>Done</translation>

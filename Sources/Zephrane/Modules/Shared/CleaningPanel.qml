@@ -15,7 +15,7 @@ Item {
         anchors.margins: 32
         spacing: 16
 
-        PhaseStatus { text: qsTrId("phase.status.cleaning"); tone: PhaseStatus.Accent }
+        PhaseHeader { text: qsTrId("phase.status.cleaning"); tone: PhaseHeader.Accent; busy: true }
         Text {
             width: parent.width
             text: root.channelTitle
@@ -28,12 +28,12 @@ Item {
             Accessible.name: text
         }
         MonoLabel { text: qsTrId("phase.cleaning.total"); tone: MonoLabel.Faint }
-        PhaseBigNumber {
+        LEDNumber {
             objectName: "cleaningBytes"
-            number: root.summary.size.number
-            unit: root.summary.size.unit
-            spoken: root.summary.size.spoken
+            bytes: root.summary.size.bytes
+            size: 56
             color: PainelTheme.accent
+            label: qsTrId("phase.cleaning.total")
         }
         Text {
             text: root.model.countText(root.summary.count)
@@ -41,26 +41,8 @@ Item {
             font.family: PainelTheme.monoFamily
             font.pixelSize: 14
         }
-        Rectangle {
+        ScanSweep {
             width: parent.width
-            height: 8
-            radius: 2
-            color: PainelTheme.ledOff
-            clip: true
-            Rectangle {
-                id: sweep
-                width: parent.width / 4
-                height: parent.height
-                radius: 2
-                color: PainelTheme.accent
-                XAnimator on x {
-                    from: -sweep.width
-                    to: sweep.parent.width
-                    duration: 1400
-                    loops: Animation.Infinite
-                    running: !PainelTheme.reducedMotion
-                }
-            }
         }
     }
 }

@@ -27,7 +27,7 @@ Item {
             width: flick.width
             spacing: 14
 
-            PhaseStatus { text: qsTrId("success.status"); tone: PhaseStatus.Ok }
+            PhaseHeader { text: qsTrId("success.status"); tone: PhaseHeader.Ok }
             Text {
                 Layout.fillWidth: true
                 text: qsTrId("success.title")
@@ -40,12 +40,12 @@ Item {
                 Accessible.name: text
             }
             MonoLabel { text: qsTrId("success.freed"); tone: MonoLabel.Faint }
-            PhaseBigNumber {
+            LEDNumber {
                 objectName: "freedBytes"
-                number: root.outcome.size.number
-                unit: root.outcome.size.unit
-                spoken: root.outcome.size.spoken
+                bytes: root.outcome.size.bytes
+                size: 56
                 color: PainelTheme.ok
+                label: qsTrId("success.freed")
             }
             Text {
                 Layout.fillWidth: true
@@ -140,16 +140,13 @@ Item {
                             font.weight: Font.Medium
                             wrapMode: Text.WordWrap
                         }
-                        PhaseKey {
+                        PainelButton {
                             id: toggle
                             objectName: "failuresToggle"
                             anchors.right: parent.right
-                            implicitHeight: 30
+                            size: PainelButtonSize.Small
                             text: root.failuresOpen ? qsTrId("success.failures.expanded") : qsTrId("success.failures.collapsed")
-                            Accessible.role: Accessible.CheckBox
-                            Accessible.checkable: true
-                            Accessible.checked: root.failuresOpen
-                            onActivated: root.failuresOpen = !root.failuresOpen
+                            onClicked: root.failuresOpen = !root.failuresOpen
                         }
                     }
                     Repeater {
@@ -185,18 +182,18 @@ Item {
             Row {
                 spacing: 12
                 topPadding: 4
-                PhaseKey {
+                PainelButton {
                     objectName: "doneKey"
                     text: qsTrId("success.done")
-                    accent: true
+                    kind: PainelButtonKind.Accent
                     focus: true
-                    onActivated: root.model.actions.done()
+                    onClicked: root.model.actions.done()
                 }
-                PhaseKey {
+                PainelButton {
                     objectName: "emptyTrashKey"
                     visible: root.toTrash && root.model.actions.hasEmptyTrash
                     text: qsTrId("success.emptyTrash")
-                    onActivated: root.model.actions.emptyTrash()
+                    onClicked: root.model.actions.emptyTrash()
                 }
             }
         }

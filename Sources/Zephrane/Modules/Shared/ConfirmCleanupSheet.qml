@@ -157,27 +157,27 @@ Rectangle {
                 Row {
                     anchors.right: parent.right
                     spacing: 12
-                    PhaseKey {
+                    PainelButton {
                         objectName: "cancelKey"
                         text: qsTrId("action.cancel")
-                        onActivated: root.model.actions.cancelConfirm()
+                        onClicked: root.model.actions.cancelConfirm()
                     }
-                    PhaseKey {
+                    PainelButton {
                         objectName: "confirmKey"
                         visible: !root.forGood
                         text: qsTrId("confirm.clean")
-                        accent: true
+                        kind: PainelButtonKind.Accent
                         focus: !root.forGood
-                        onActivated: root.model.actions.confirm()
+                        onClicked: root.model.actions.confirm()
                     }
-                    PhaseHoldKey {
+                    HoldToConfirmButton {
                         objectName: "holdKey"
                         visible: root.forGood
-                        text: qsTrId("confirm.clean")
+                        title: qsTrId("confirm.clean")
                         confirmTitle: qsTrId("confirm.clean")
                         confirmMessage: qsTrId("hold.confirm.message")
                         focus: root.forGood
-                        onActivated: root.model.actions.confirm()
+                        onAction: root.model.actions.confirm()
                     }
                 }
             }

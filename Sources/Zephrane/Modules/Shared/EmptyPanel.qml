@@ -14,7 +14,7 @@ Item {
         anchors.margins: 32
         spacing: 16
 
-        PhaseStatus { text: qsTrId("phase.status.clean"); tone: PhaseStatus.Ok }
+        PhaseHeader { text: qsTrId("phase.status.clean"); tone: PhaseHeader.Ok }
         Text {
             width: parent.width
             text: qsTrId("phase.empty.title")
@@ -26,9 +26,12 @@ Item {
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }
-        PhaseBigNumber {
-            number: qsTrId("phase.empty.zero")
+        LEDNumber {
+            integer: qsTrId("phase.empty.zero")
+            spoken: qsTrId("phase.empty.zero")
+            size: 56
             color: PainelTheme.ok
+            label: qsTrId("phase.empty.title")
         }
         Text {
             width: Math.min(parent.width, 560)
@@ -39,11 +42,11 @@ Item {
             lineHeight: 1.3
             wrapMode: Text.WordWrap
         }
-        PhaseKey {
+        PainelButton {
             objectName: "rescanKey"
             text: qsTrId("phase.rescan")
             focus: true
-            onActivated: root.model.actions.scan()
+            onClicked: root.model.actions.scan()
         }
     }
 }

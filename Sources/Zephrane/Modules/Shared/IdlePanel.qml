@@ -15,9 +15,9 @@ Item {
         anchors.margins: 32
         spacing: 16
 
-        PhaseStatus {
+        PhaseHeader {
             text: qsTrId("phase.status.idle")
-            tone: PhaseStatus.Muted
+            tone: PhaseHeader.Muted
         }
         Text {
             width: parent.width
@@ -42,18 +42,18 @@ Item {
         Row {
             spacing: 12
             topPadding: 8
-            PhaseKey {
+            PainelButton {
                 objectName: "scanKey"
                 text: qsTrId("phase.scan")
-                accent: true
+                kind: PainelButtonKind.Accent
                 focus: true
-                onActivated: root.model.actions.scan()
+                onClicked: root.model.actions.scan()
             }
-            PhaseKey {
+            PainelButton {
                 objectName: "idleSecondaryKey"
                 visible: root.model.actions.idleSecondaryTitle.length > 0
                 text: root.model.actions.idleSecondaryTitle
-                onActivated: root.model.actions.idleSecondary()
+                onClicked: root.model.actions.idleSecondary()
             }
         }
     }

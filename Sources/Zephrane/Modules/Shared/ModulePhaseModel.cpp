@@ -3,6 +3,7 @@
 #include "CleanerCore/Removal/Cleaner.hpp"
 #include "CleanerCore/Removal/SafetyGuard.hpp"
 #include "Modules/Shared/PhaseFormat.hpp"
+#include "Painel/ByteFormat.hpp"
 
 #include <QDir>
 #include <QPromise>
@@ -18,13 +19,10 @@ QString pathText(const URL& url) {
     return QString::fromStdString(url.path());
 }
 
+// A size for the views: the count for LED digits, and the same as a line of text.
 QVariantMap bytesMap(std::int64_t count) {
-    const PhaseFormat::Bytes text = PhaseFormat::bytes(count);
-    return {{"bytes", QVariant::fromValue<qint64>(count)},
-            {"text", text.text},
-            {"number", text.number},
-            {"unit", text.unit},
-            {"spoken", PhaseFormat::spokenBytes(count)}};
+    const auto value = static_cast<double>(count);
+    return {{"bytes", value}, {"text", ByteFormat::text(value)}};
 }
 
 QVariantList linesList(const std::vector<CleanupLine>& lines) {

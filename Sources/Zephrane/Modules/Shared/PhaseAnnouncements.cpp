@@ -2,7 +2,7 @@
 
 #include "App/Announcer.hpp"
 #include "Modules/Shared/ModulePhaseModel.hpp"
-#include "Modules/Shared/PhaseFormat.hpp"
+#include "Painel/ByteFormat.hpp"
 
 void PhaseAnnouncements::setModel(ModulePhaseModel* model) {
     if (model == watched)
@@ -49,9 +49,10 @@ void PhaseAnnouncements::phaseChanged() {
         return;
     const PainelPhase now = watched->painelPhase();
     const QString found = watched->foundSpokenText().isEmpty()
-                              ? PhaseFormat::spokenBytes(watched->foundBytes())
+                              ? ByteFormat::spoken(static_cast<double>(watched->foundBytes()))
                               : watched->foundSpokenText();
-    const QString freed = PhaseFormat::spokenBytes(watched->outcome() ? watched->outcome()->bytes : 0);
+    const QString freed =
+        ByteFormat::spoken(watched->outcome() ? static_cast<double>(watched->outcome()->bytes) : 0.0);
     if (auto text = announcement(last, now, found, freed))
         Announcer::announce(*text);
     last = now;

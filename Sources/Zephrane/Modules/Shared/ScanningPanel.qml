@@ -23,9 +23,14 @@ Item {
         anchors.margins: 32
         spacing: 18
 
-        PhaseStatus {
+        PhaseHeader {
             text: qsTrId("phase.status.scanning")
-            tone: PhaseStatus.Accent
+            tone: PhaseHeader.Accent
+            busy: true
+        }
+
+        ScanSweep {
+            Layout.fillWidth: true
         }
 
         RowLayout {
@@ -34,11 +39,12 @@ Item {
             Column {
                 spacing: 4
                 MonoLabel { text: qsTrId("phase.scan.count"); tone: MonoLabel.Faint }
-                PhaseBigNumber {
+                LEDNumber {
                     objectName: "foundCount"
-                    number: root.progress.itemCount
+                    integer: root.progress.itemCount
                     unit: root.progress.itemCount === 1 ? qsTrId("phase.scan.unit.one") : qsTrId("phase.scan.unit.other")
                     spoken: qsTrId("phase.scan.items").arg(root.model.countText(root.progress.itemCount))
+                    size: 56
                 }
             }
             Item { Layout.fillWidth: true }
@@ -118,21 +124,15 @@ Item {
                     tone: MonoLabel.Muted
                 }
             }
-            Rectangle {
-                id: bar
+            LEDMeter {
                 objectName: "progressBar"
                 width: parent.width
-                height: 8
-                radius: 2
-                color: PainelTheme.ledOff
-                Accessible.role: Accessible.ProgressBar
-                Accessible.name: qsTrId("phase.scan.progress")
-                Rectangle {
-                    width: root.progress.stepCount > 0 ? parent.width * root.progress.doneCount / root.progress.stepCount : 0
-                    height: parent.height
-                    radius: 2
-                    color: PainelTheme.accent
-                }
+                height: 10
+                cells: 40
+                tint: LEDMeter.Accent
+                fraction: root.progress.stepCount > 0 ? root.progress.doneCount / root.progress.stepCount : 0
+                label: qsTrId("phase.scan.progress")
+                value: qsTrId("phase.scan.progress.value").arg(root.progress.doneCount).arg(root.progress.stepCount)
             }
             Text {
                 objectName: "currentPath"
@@ -147,11 +147,11 @@ Item {
 
         Item { Layout.fillHeight: true }
 
-        PhaseKey {
+        PainelButton {
             objectName: "stopKey"
             visible: root.model.actions.hasStop
             text: qsTrId("phase.scan.stop")
-            onActivated: root.model.actions.stop()
+            onClicked: root.model.actions.stop()
         }
     }
 }

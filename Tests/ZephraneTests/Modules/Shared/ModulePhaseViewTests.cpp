@@ -1,6 +1,7 @@
 #include "App/Announcer.hpp"
 #include "Modules/Shared/FakeChannelModel.hpp"
 #include "Modules/Shared/PhaseAnnouncements.hpp"
+#include "Painel/ByteFormat.hpp"
 #include "Support/QmlTestSupport.hpp"
 
 #include "TempTree.hpp"
@@ -199,7 +200,7 @@ TEST_F(ModulePhaseScreens, EveryPhaseShowsItsPanelInBothLanguagesAndPalettes) {
             EXPECT_FALSE(shows("emptyTrashKey")) << "no way to the trash was given";
             shoot("success", language, contrast);
             if (QQuickItem* toggle = find("failuresToggle"); toggle && toggle->isVisible()) {
-                QMetaObject::invokeMethod(toggle, "activated");
+                QMetaObject::invokeMethod(toggle, "clicked");
                 shoot("success-failures", language, contrast);
             }
             model().actions()->done();
@@ -219,8 +220,8 @@ TEST_F(ModulePhaseScreens, EachNewScreenIsSpokenOnceAndTheSheetIsSilent) {
     model().plan = {{"caches", "Caches", {fakeCategory("caches", inHome("c"), {"a"}, 2'000'000)}},
                     {"logs", "Logs", {}}};
     ASSERT_TRUE(finishes(model().scan()));
-    EXPECT_EQ(spoken,
-              (QStringList{"Scanning", "Caches done", "Logs done", "Scan finished, 2.00 megabytes found"}));
+    EXPECT_EQ(spoken, (QStringList{"Scanning", "Caches done", "Logs done",
+                                   "Scan finished, " + ByteFormat::spoken(2'000'000) + " found"}));
 
     spoken.clear();
     model().setConfirming(true);
