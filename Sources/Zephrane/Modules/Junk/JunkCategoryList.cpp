@@ -1,7 +1,7 @@
 #include "Modules/Junk/JunkCategoryList.hpp"
 
 #include "Modules/Junk/SystemJunkModel.hpp"
-#include "Modules/Shared/PhaseFormat.hpp"
+#include "Painel/ByteFormat.hpp"
 
 #include <QDir>
 
@@ -48,7 +48,7 @@ QVariant JunkCategoryList::data(const QModelIndex& index, int role) const {
     case TotalBytesRole:
         return QVariant::fromValue<qint64>(group.totalSize());
     case SizeTextRole:
-        return PhaseFormat::bytes(group.totalSize()).text;
+        return ByteFormat::text(static_cast<double>(group.totalSize()));
     case ItemCountRole:
         return static_cast<int>(group.items.size());
     case IsOnRole:
@@ -83,7 +83,7 @@ QVariantList JunkCategoryList::items(const JunkGroup& group) const {
     for (const CleanupItem& item : group.items)
         list.append(QVariantMap{{"path", QString::fromStdString(item.url.path())},
                                 {"name", QString::fromStdString(item.name())},
-                                {"sizeText", PhaseFormat::bytes(item.size).text},
+                                {"sizeText", ByteFormat::text(static_cast<double>(item.size))},
                                 {"subtitle", subtitle(item, junk->home())},
                                 {"hasNote", item.note.has_value()},
                                 {"selected", junk->selection().contains(item.url)}});

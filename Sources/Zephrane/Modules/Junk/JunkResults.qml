@@ -147,13 +147,13 @@ FocusScope {
                 model: root.model
                 title: qsTrId("junk.destination")
             }
-            PhaseKey {
+            PainelButton {
                 objectName: "cleanKey"
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTrId("junk.clean")
-                accent: true
+                kind: PainelButtonKind.Accent
                 enabled: root.model.selectedCount > 0
-                onActivated: root.model.confirming = true
+                onClicked: root.model.confirming = true
             }
         }
     }

@@ -4,6 +4,7 @@
 #include "CleanerCore/Platform/RunningApplications.hpp"
 #include "Modules/Junk/JunkCategoryList.hpp"
 #include "Modules/Shared/PhaseFormat.hpp"
+#include "Painel/ByteFormat.hpp"
 
 #include <QDir>
 
@@ -92,11 +93,11 @@ const JunkGroup* SystemJunkModel::group(const QString& ruleId) const {
 }
 
 QString SystemJunkModel::foundText() const {
-    return PhaseFormat::bytes(foundBytes()).text;
+    return ByteFormat::text(static_cast<double>(foundBytes()));
 }
 
 QString SystemJunkModel::selectedText() const {
-    return qtTrId("junk.selected").arg(PhaseFormat::bytes(summary().bytes()).text);
+    return qtTrId("junk.selected").arg(ByteFormat::text(static_cast<double>(summary().bytes())));
 }
 
 QString SystemJunkModel::selectedDetail() const {
