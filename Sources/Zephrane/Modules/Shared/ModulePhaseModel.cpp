@@ -33,6 +33,23 @@ QVariantList linesList(const std::vector<CleanupLine>& lines) {
     return list;
 }
 
+// One line per category holding items that `counts`, with their scan-time sizes; none for the rest.
+template <class Predicate>
+std::vector<CleanupLine> linesOf(const std::vector<CleanupCategory>& categories, Predicate counts) {
+    std::vector<CleanupLine> lines;
+    for (const CleanupCategory& category : categories) {
+        CleanupLine line{category.id, category.title, 0, 0};
+        for (const CleanupItem& item : category.items)
+            if (counts(item.url)) {
+                ++line.count;
+                line.bytes += item.size;
+            }
+        if (line.count > 0)
+            lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
 } // namespace
 
 // One scan in flight. The worker side only ever sees the feed and the stop token.
@@ -219,17 +236,7 @@ void ModulePhaseModel::finishClean(const CleanerCore::RemovalReport& removal,
                                    const std::vector<CleanupCategory>& before,
                                    std::chrono::steady_clock::time_point started) {
     const std::unordered_set<URL> removed(removal.removed.begin(), removal.removed.end());
-    std::vector<CleanupLine> lines;
-    for (const CleanupCategory& category : before) {
-        CleanupLine line{category.id, category.title, 0, 0};
-        for (const CleanupItem& item : category.items)
-            if (removed.contains(item.url)) {
-                ++line.count;
-                line.bytes += item.size;
-            }
-        if (line.count > 0)
-            lines.push_back(std::move(line));
-    }
+    std::vector<CleanupLine> lines = linesOf(before, [&](const URL& url) { return removed.contains(url); });
     dropRemoved(removed);
     emit resultsChanged();
     std::erase_if(selected, [&](const URL& url) { return removed.contains(url); });
@@ -272,18 +279,7 @@ std::vector<CleanupItem> ModulePhaseModel::selectedItems() const {
 }
 
 CleanupSummary ModulePhaseModel::summary() const {
-    CleanupSummary result;
-    for (const CleanupCategory& category : categories()) {
-        CleanupLine line{category.id, category.title, 0, 0};
-        for (const CleanupItem& item : category.items)
-            if (selected.contains(item.url)) {
-                ++line.count;
-                line.bytes += item.size;
-            }
-        if (line.count > 0)
-            result.lines.push_back(std::move(line));
-    }
-    return result;
+    return {linesOf(categories(), [this](const URL& url) { return selected.contains(url); })};
 }
 
 void ModulePhaseModel::setSelection(std::unordered_set<URL> urls) {
