@@ -1,5 +1,6 @@
 #include "App/FullDiskAccessMonitor.hpp"
 
+#include "App/Announcer.hpp"
 #include "App/FullDiskAccess.hpp"
 
 #include <QDesktopServices>
@@ -31,7 +32,7 @@ bool FullDiskAccessMonitor::refresh() {
         return now;
     granted = now;
     if (now)
-        emit announcement(qtTrId("fda.announce.granted"));
+        Announcer::announce(qtTrId("fda.announce.granted"));
     emit isGrantedChanged();
     return now;
 }
@@ -39,7 +40,7 @@ bool FullDiskAccessMonitor::refresh() {
 bool FullDiskAccessMonitor::check() {
     const bool now = refresh();
     if (!now)
-        emit announcement(qtTrId("fda.announce.stillOff"));
+        Announcer::announce(qtTrId("fda.announce.stillOff"));
     return now;
 }
 

@@ -46,8 +46,6 @@ public:
 signals:
     void isGrantedChanged();
     void watchingChanged();
-    // A text for the screen reader; until the announcer lands, views and tests listen here.
-    void announcement(const QString& text);
 
 private:
     explicit FullDiskAccessMonitor(QObject* parent = nullptr);

@@ -1,5 +1,7 @@
 #include "App/LanguageChoice.hpp"
 
+#include "App/Announcer.hpp"
+
 #include <QVariantMap>
 
 LanguageChoice::LanguageChoice(QObject* parent)
@@ -29,7 +31,7 @@ void LanguageChoice::choose(AppLanguage language) {
     relaunchNeeded = differs;
     emit choiceChanged();
     if (announce)
-        emit announcement(qtTrId("settings.language.relaunchNotice"));
+        Announcer::announce(qtTrId("settings.language.relaunchNotice"));
 }
 
 void LanguageChoice::chooseRaw(const QString& raw) {

@@ -33,8 +33,6 @@ public:
 
 signals:
     void choiceChanged();
-    // A text for the screen reader; until the announcer lands, views and tests listen here.
-    void announcement(const QString& text);
 
 private:
     AppLanguage launch;

@@ -1,6 +1,7 @@
 #include "App/Preferences.hpp"
 
 #include "App/LaunchAtLogin.hpp"
+#include "Modules/Shared/CleanDestination.hpp"
 #include "Painel/PainelAccent.hpp"
 
 #include <QList>
@@ -17,9 +18,6 @@ QList<Preferences*>& instances() {
 bool flag(const char* key, bool fallback) {
     return QSettings().value(QLatin1String(key), fallback).toBool();
 }
-
-const QString trash = QStringLiteral("trash");
-const QString permanent = QStringLiteral("delete");
 
 } // namespace
 
@@ -65,11 +63,10 @@ void Preferences::setNotifyOutdatedApps(bool on) {
 }
 
 QString Preferences::cleanDestination() const {
-    const QString raw = QSettings().value(QLatin1String(cleanDestinationKey)).toString();
-    return raw == permanent ? permanent : trash;
+    return CleanDestinations::rawValue(CleanDestinations::stored());
 }
 void Preferences::setCleanDestination(const QString& raw) {
-    if (raw == trash || raw == permanent)
+    if (CleanDestinations::fromRaw(raw))
         write(cleanDestinationKey, raw);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Modules/Shared/CleanDestination.hpp"
+
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -21,7 +23,7 @@ public:
     static constexpr const char* showMenuBarAgentKey = "showMenuBarAgent";
     static constexpr const char* launchAtLoginKey = "launchAtLogin";
     static constexpr const char* notifyOutdatedAppsKey = "notifyOutdatedApps";
-    static constexpr const char* cleanDestinationKey = "cleanDestination";
+    static constexpr const char* cleanDestinationKey = CleanDestinations::settingsKey;
     static constexpr const char* accentKey = "accent";
     static constexpr const char* onboardingDoneKey = "onboardingDone";
 
