@@ -49,7 +49,7 @@
     </message>
     <message id="channel.large.title">
         <source>Large &amp; Old Files</source>
-        <translation>Arquivos grandes e antigos</translation>
+        <translation>Grandes e antigos</translation>
     </message>
     <message id="channel.apps.short">
         <source>Apps</source>

@@ -11,7 +11,7 @@ Rectangle {
     required property GoCommands goCommands
     signal settingsRequested
 
-    implicitWidth: 252
+    implicitWidth: 262
     implicitHeight: keys.implicitHeight + 220
     color: PainelTheme.panel
 

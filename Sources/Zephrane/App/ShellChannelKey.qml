@@ -41,12 +41,12 @@ Rectangle {
         anchors.left: lamp.right
         anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        width: 44
+        width: 52
         text: root.info.shortLabel
         color: root.lit ? PainelTheme.accent : PainelTheme.faint
         font.family: PainelTheme.monoFamily
         font.pixelSize: 10
-        font.letterSpacing: 1
+        font.letterSpacing: 0.6
         font.capitalization: Font.AllUppercase
         elide: Text.ElideRight
     }
