@@ -563,5 +563,113 @@
         <source>Delete</source>
         <translation>Delete</translation>
     </message>
+    <message id="lens.idle.message">
+        <source>See what takes up space in your home folder as a map of rings, then mark what can go.</source>
+        <translation>See what takes up space in your home folder as a map of rings, then mark what can go.</translation>
+    </message>
+    <message id="lens.idle.chooseOther">
+        <source>Choose folder…</source>
+        <translation>Choose folder…</translation>
+    </message>
+    <message id="lens.chooseOther">
+        <source>Other folder…</source>
+        <translation>Other folder…</translation>
+    </message>
+    <message id="lens.choose.prompt">
+        <source>Scan</source>
+        <translation>Scan</translation>
+    </message>
+    <message id="lens.choose.message">
+        <source>Choose a folder to map</source>
+        <translation>Choose a folder to map</translation>
+    </message>
+    <message id="lens.empty.message">
+        <source>This folder holds nothing that takes up space.</source>
+        <translation>This folder holds nothing that takes up space.</translation>
+    </message>
+    <message id="lens.confirm.note">
+        <source>Marked folders go with everything inside them.</source>
+        <translation>Marked folders go with everything inside them.</translation>
+    </message>
+    <message id="lens.step.tree">
+        <source>Folder tree</source>
+        <translation>Folder tree</translation>
+    </message>
+    <message id="lens.home">
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message id="lens.items">
+        <source>%1 items</source>
+        <translation>%1 items</translation>
+    </message>
+    <message id="lens.center.share">
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="lens.announce.folder">
+        <source>Showing %1</source>
+        <translation>Showing %1</translation>
+    </message>
+    <message id="lens.map">
+        <source>Map</source>
+        <translation>Map</translation>
+    </message>
+    <message id="lens.list">
+        <source>Contents</source>
+        <translation>Contents</translation>
+    </message>
+    <message id="lens.path">
+        <source>Path</source>
+        <translation>Path</translation>
+    </message>
+    <message id="lens.path.current">
+        <source>%1, current folder</source>
+        <translation>%1, current folder</translation>
+    </message>
+    <message id="lens.up">
+        <source>Up</source>
+        <translation>Up</translation>
+    </message>
+    <message id="lens.size">
+        <source>Marked</source>
+        <translation>Marked</translation>
+    </message>
+    <message id="lens.destination">
+        <source>Goes to</source>
+        <translation>Goes to</translation>
+    </message>
+    <message id="lens.remove">
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message id="lens.row.open">
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message id="lens.row.mark">
+        <source>Mark</source>
+        <translation>Mark</translation>
+    </message>
+    <message id="lens.row.unmark">
+        <source>Unmark</source>
+        <translation>Unmark</translation>
+    </message>
+    <message id="lens.row.marked">
+        <source>marked</source>
+        <translation>marked</translation>
+    </message>
+    <message id="lens.row.mixed">
+        <source>some items inside marked</source>
+        <translation>some items inside marked</translation>
+    </message>
+    <message id="lens.row.inside">
+        <source>inside a marked folder</source>
+        <translation>inside a marked folder</translation>
+    </message>
+    <message id="lens.row.hint">
+        <source>Space marks, Return opens</source>
+        <translation>Space marks, Return opens</translation>
+    </message>
 </context>
 </TS>

@@ -563,5 +563,113 @@
         <source>Delete</source>
         <translation>Apagar</translation>
     </message>
+    <message id="lens.idle.message">
+        <source>See what takes up space in your home folder as a map of rings, then mark what can go.</source>
+        <translation>Veja o que ocupa espaço na sua pasta pessoal como um mapa de anéis e marque o que pode sair.</translation>
+    </message>
+    <message id="lens.idle.chooseOther">
+        <source>Choose folder…</source>
+        <translation>Escolher pasta…</translation>
+    </message>
+    <message id="lens.chooseOther">
+        <source>Other folder…</source>
+        <translation>Outra pasta…</translation>
+    </message>
+    <message id="lens.choose.prompt">
+        <source>Scan</source>
+        <translation>Analisar</translation>
+    </message>
+    <message id="lens.choose.message">
+        <source>Choose a folder to map</source>
+        <translation>Escolha uma pasta para mapear</translation>
+    </message>
+    <message id="lens.empty.message">
+        <source>This folder holds nothing that takes up space.</source>
+        <translation>Esta pasta não tem nada que ocupe espaço.</translation>
+    </message>
+    <message id="lens.confirm.note">
+        <source>Marked folders go with everything inside them.</source>
+        <translation>As pastas marcadas saem com tudo o que há dentro delas.</translation>
+    </message>
+    <message id="lens.step.tree">
+        <source>Folder tree</source>
+        <translation>Árvore de pastas</translation>
+    </message>
+    <message id="lens.home">
+        <source>Home</source>
+        <translation>Pasta pessoal</translation>
+    </message>
+    <message id="lens.items">
+        <source>%1 items</source>
+        <translation>%1 itens</translation>
+    </message>
+    <message id="lens.center.share">
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message id="lens.announce.folder">
+        <source>Showing %1</source>
+        <translation>Mostrando %1</translation>
+    </message>
+    <message id="lens.map">
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
+    <message id="lens.list">
+        <source>Contents</source>
+        <translation>Conteúdo</translation>
+    </message>
+    <message id="lens.path">
+        <source>Path</source>
+        <translation>Caminho</translation>
+    </message>
+    <message id="lens.path.current">
+        <source>%1, current folder</source>
+        <translation>%1, pasta atual</translation>
+    </message>
+    <message id="lens.up">
+        <source>Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message id="lens.size">
+        <source>Marked</source>
+        <translation>Marcado</translation>
+    </message>
+    <message id="lens.destination">
+        <source>Goes to</source>
+        <translation>Destino</translation>
+    </message>
+    <message id="lens.remove">
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message id="lens.row.open">
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message id="lens.row.mark">
+        <source>Mark</source>
+        <translation>Marcar</translation>
+    </message>
+    <message id="lens.row.unmark">
+        <source>Unmark</source>
+        <translation>Desmarcar</translation>
+    </message>
+    <message id="lens.row.marked">
+        <source>marked</source>
+        <translation>marcado</translation>
+    </message>
+    <message id="lens.row.mixed">
+        <source>some items inside marked</source>
+        <translation>alguns itens dentro marcados</translation>
+    </message>
+    <message id="lens.row.inside">
+        <source>inside a marked folder</source>
+        <translation>dentro de uma pasta marcada</translation>
+    </message>
+    <message id="lens.row.hint">
+        <source>Space marks, Return opens</source>
+        <translation>Espaço marca, Enter abre</translation>
+    </message>
 </context>
 </TS>

@@ -2,7 +2,8 @@
 
 #include <QVariantMap>
 
-AppModel::AppModel(QObject* parent) : QObject(parent), junkModel(new SystemJunkModel(this)) {
+AppModel::AppModel(QObject* parent)
+    : QObject(parent), junkModel(new SystemJunkModel(this)), lens(new SpaceLensModel(this)) {
     junkModel->actions()->setEmptyTrash([this] { open(Channel::trash); });
 }
 

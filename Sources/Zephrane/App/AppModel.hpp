@@ -2,6 +2,7 @@
 
 #include "App/Channel.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
+#include "Modules/Lens/SpaceLensModel.hpp"
 
 #include <QDateTime>
 #include <QObject>
@@ -18,6 +19,7 @@ class AppModel : public QObject {
     Q_PROPERTY(int selection READ selectionRaw WRITE openRaw NOTIFY selectionChanged)
     Q_PROPERTY(QVariantList channels READ channels CONSTANT)
     Q_PROPERTY(SystemJunkModel* junk READ junk CONSTANT)
+    Q_PROPERTY(SpaceLensModel* spaceLens READ spaceLens CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
@@ -37,6 +39,7 @@ public:
     QVariantList channels() const;
 
     SystemJunkModel* junk() const { return junkModel; }
+    SpaceLensModel* spaceLens() const { return lens; }
 
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
@@ -50,6 +53,7 @@ signals:
 private:
     // The channels' models, in the order they are made.
     SystemJunkModel* junkModel;
+    SpaceLensModel* lens;
 
     Channel current = Channel::home;
     QDateTime scanStarted;

@@ -56,7 +56,7 @@ Item {
 
     Component { id: home; ChannelPlaceholder { channel: 0; appModel: root.appModel } }
     Component { id: junk; JunkChannel { appModel: root.appModel } }
-    Component { id: lens; ChannelPlaceholder { channel: 2; appModel: root.appModel } }
+    Component { id: lens; LensChannel { appModel: root.appModel } }
     Component { id: large; ChannelPlaceholder { channel: 3; appModel: root.appModel } }
     Component { id: apps; ChannelPlaceholder { channel: 4; appModel: root.appModel } }
     Component { id: leftovers; ChannelPlaceholder { channel: 5; appModel: root.appModel } }

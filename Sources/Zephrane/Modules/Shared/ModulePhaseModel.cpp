@@ -338,7 +338,7 @@ void ModulePhaseModel::setPhase(ModulePhase phase) {
 }
 
 void ModulePhaseModel::refreshPainelPhase() {
-    const PainelPhase next = PainelPhases::from(current, itemCount() > 0, confirmingFlag);
+    const PainelPhase next = PainelPhases::from(current, hasResults(), confirmingFlag);
     if (next == shown)
         return;
     shown = next;

@@ -143,6 +143,9 @@ protected:
     virtual void dropRemoved(const std::unordered_set<CleanerCore::URL>& removed) = 0;
 
     void notifyResultsChanged();
+    // Whether `ready` shows results rather than the empty screen. A channel whose results are more
+    // than its removable items (a map with nothing marked yet, say) answers for itself.
+    virtual bool hasResults() const { return itemCount() > 0; }
 
 private:
     struct ScanRun;

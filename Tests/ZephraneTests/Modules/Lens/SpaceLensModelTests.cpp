@@ -1,0 +1,349 @@
+#include "App/Announcer.hpp"
+#include "Modules/Lens/LensRowsModel.hpp"
+#include "Modules/Lens/SpaceLensModel.hpp"
+#include "TempTree.hpp"
+
+#include <QAbstractItemModelTester>
+#include <QDir>
+#include <QLocale>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using CleanerCore::DiskNode;
+using CleanerCore::URL;
+using Node = DiskNode::Pointer;
+
+namespace {
+
+Node file(const std::string& path, std::int64_t size) {
+    return std::make_shared<const DiskNode>(URL::file(path), std::nullopt, size, false, 1, false,
+                                            std::vector<Node>{});
+}
+
+Node folder(const std::string& path, std::vector<Node> children) {
+    std::int64_t size = 0, count = 0;
+    for (const Node& child : children) {
+        size += child->size();
+        count += child->itemCount();
+    }
+    CleanerCore::orderChildren(children);
+    return std::make_shared<const DiskNode>(URL::file(path), std::nullopt, size, true, count, false,
+                                            std::move(children));
+}
+
+URL url(const std::string& path) {
+    return URL::file(path);
+}
+
+// The model with its results handed in directly, so that navigation, marks and the rebuild after a
+// removal can be tested on a tree of known shape.
+class LensUnderTest : public SpaceLensModel {
+public:
+    using SpaceLensModel::categories;
+    using SpaceLensModel::dropRemoved;
+    void adopt(Node tree) { adoptResults({std::any(std::move(tree))}); }
+};
+
+//  /r (1000)
+//    docs (600): big.pdf 400, notes (200): a.txt 150, b.txt 50
+//    music (300): song 300
+//    small (100): .zephrane-small-items 100
+Node sampleTree() {
+    auto small = std::make_shared<const DiskNode>(url("/r/.zephrane-small-items"), "4 small items", 100,
+                                                  false, 4, true, std::vector<Node>{});
+    return folder("/r", {folder("/r/docs", {file("/r/docs/big.pdf", 400),
+                                            folder("/r/docs/notes", {file("/r/docs/notes/a.txt", 150),
+                                                                     file("/r/docs/notes/b.txt", 50)})}),
+                         folder("/r/music", {file("/r/music/song", 300)}), small});
+}
+
+std::vector<std::string> paths(const std::vector<Node>& nodes) {
+    std::vector<std::string> out;
+    for (const Node& node : nodes)
+        out.push_back(node->path());
+    return out;
+}
+
+class AnnouncementLog {
+public:
+    AnnouncementLog() {
+        previous = Announcer::installSink([this](const QString& text) { said.append(text); });
+    }
+    ~AnnouncementLog() { Announcer::installSink(previous); }
+    QStringList said;
+
+private:
+    Announcer::Sink previous;
+};
+
+bool waitFor(QFuture<void> future) {
+    return QTest::qWaitFor([&] { return future.isFinished(); }, 20000);
+}
+
+} // namespace
+
+TEST(SpaceLensMarks, AnEnclosingMarkWinsWhicheverComesFirst) {
+    LensUnderTest lens;
+    lens.adopt(sampleTree());
+    lens.toggleMark(url("/r/docs"));
+    lens.toggleMark(url("/r/docs/notes/a.txt"));
+    EXPECT_EQ(lens.selection(), (std::unordered_set<URL>{url("/r/docs")}));
+    EXPECT_TRUE(lens.isMarked(url("/r/docs/notes/a.txt")));
+
+    lens.toggleMark(url("/r/docs"));
+    EXPECT_TRUE(lens.selection().empty());
+
+    lens.toggleMark(url("/r/docs/notes/a.txt"));
+    lens.toggleMark(url("/r/music/song"));
+    EXPECT_TRUE(lens.hasMarkedInside(url("/r/docs")));
+    EXPECT_FALSE(lens.isMarked(url("/r/docs")));
+    lens.toggleMark(url("/r/docs"));
+    EXPECT_EQ(lens.selection(), (std::unordered_set<URL>{url("/r/docs"), url("/r/music/song")}));
+
+    // The aggregate stands for many items and is never marked.
+    lens.toggleMark(url("/r/.zephrane-small-items"));
+    EXPECT_EQ(lens.selection().size(), 2u);
+
+    EXPECT_EQ(paths(lens.markedNodes()), (std::vector<std::string>{"/r/docs", "/r/music/song"}));
+    EXPECT_EQ(lens.markedCount(), 2);
+    EXPECT_EQ(lens.markedBytes(), 900);
+    const auto categories = lens.categories();
+    ASSERT_EQ(categories.size(), 2u);
+    EXPECT_EQ(categories[0].title, "docs");
+    EXPECT_EQ(categories[0].items.front().size, 600);
+}
+
+TEST(SpaceLensMarks, MarkedNodesSkipWhatTheTreeNoLongerHolds) {
+    LensUnderTest lens;
+    lens.adopt(sampleTree());
+    lens.setSelection({url("/r/music"), url("/r/gone")});
+    EXPECT_EQ(paths(lens.markedNodes()), (std::vector<std::string>{"/r/music"}));
+}
+
+TEST(SpaceLensNavigation, OpensFoldersGoesUpAndKeepsTheFolderLeftBehindLit) {
+    AnnouncementLog announced;
+    LensUnderTest lens;
+    lens.adopt(sampleTree());
+    lens.goUp();
+    EXPECT_EQ(lens.path().size(), 1u);
+    EXPECT_FALSE(lens.canGoUp());
+
+    lens.open(url("/r/music/song")); // a file
+    lens.open(url("/r/.zephrane-small-items"));
+    EXPECT_EQ(lens.path().size(), 1u);
+
+    lens.setCursor(url("/r/music"));
+    lens.open(url("/r/docs"));
+    EXPECT_EQ(paths(lens.path()), (std::vector<std::string>{"/r", "/r/docs"}));
+    EXPECT_FALSE(lens.cursor());
+    EXPECT_EQ(lens.segments().front().path, "/r/docs/big.pdf");
+    lens.open(url("/r/docs/notes"));
+    EXPECT_EQ(lens.pathNames(), (QStringList{"r", "docs", "notes"}));
+
+    lens.goUp();
+    EXPECT_EQ(lens.focusNode()->path(), "/r/docs");
+    EXPECT_EQ(lens.cursor(), url("/r/docs/notes"));
+    EXPECT_EQ(lens.highlightedRowIndex(), 1);
+    EXPECT_EQ(lens.centreTitle(), "notes");
+    EXPECT_EQ(lens.centreLine(), "33% of notes");
+
+    lens.open(url("/r/docs/notes"));
+    lens.goToLevel(2); // already there
+    EXPECT_EQ(lens.path().size(), 3u);
+    lens.goToLevel(0);
+    EXPECT_EQ(lens.path().size(), 1u);
+    EXPECT_EQ(lens.cursor(), url("/r/docs"));
+    EXPECT_EQ(lens.centreLine(), "60% of docs");
+    EXPECT_EQ(announced.said,
+              (QStringList{"Showing docs", "Showing notes", "Showing docs", "Showing notes", "Showing r"}));
+}
+
+TEST(SpaceLensNavigation, TheCursorStartsAtAnEndAndStopsAtTheEdgesAndHoverWins) {
+    LensUnderTest lens;
+    lens.moveCursor(1); // no tree, no rows
+    EXPECT_FALSE(lens.cursor());
+    lens.adopt(sampleTree());
+    lens.moveCursor(-1);
+    EXPECT_EQ(lens.cursor(), url("/r/.zephrane-small-items"));
+    lens.moveCursor(1);
+    EXPECT_EQ(lens.highlightedRowIndex(), 2);
+    lens.moveCursor(-5);
+    EXPECT_EQ(lens.cursor(), url("/r/docs"));
+    lens.setCursor(std::nullopt);
+    lens.moveCursor(1);
+    EXPECT_EQ(lens.cursor(), url("/r/docs"));
+
+    // A pointer over a deep arc lights the row that holds it.
+    lens.setHovered(url("/r/music/song"));
+    EXPECT_EQ(lens.highlightedRow(), url("/r/music"));
+    EXPECT_EQ(lens.highlightedNode()->path(), "/r/music/song");
+    lens.moveCursor(-1);
+    EXPECT_FALSE(lens.hovered());
+    EXPECT_EQ(lens.cursor(), url("/r/docs"));
+    lens.moveCursor(2);
+    EXPECT_EQ(lens.centreTitle(), "4 small items");
+    EXPECT_EQ(lens.centreLine(), "10% of 4 small items");
+}
+
+TEST(SpaceLensNavigation, KeysMoveOpenMarkAndMirrorRightToLeft) {
+    LensUnderTest lens;
+    lens.adopt(sampleTree());
+    EXPECT_TRUE(lens.handleKey(Qt::Key_Down, Qt::NoModifier, false));
+    EXPECT_EQ(lens.cursor(), url("/r/docs"));
+    lens.handleKey(Qt::Key_Right, Qt::NoModifier, false);
+    EXPECT_EQ(lens.focusNode()->path(), "/r/docs");
+    lens.handleKey(Qt::Key_Up, Qt::NoModifier, false);
+    EXPECT_EQ(lens.cursor(), url("/r/docs/notes"));
+    lens.handleKey(Qt::Key_Down, Qt::ControlModifier, false);
+    EXPECT_EQ(lens.focusNode()->path(), "/r/docs/notes");
+    lens.handleKey(Qt::Key_Up, Qt::AltModifier, false);
+    EXPECT_EQ(lens.focusNode()->path(), "/r/docs");
+    // Right to left, the right arrow goes back.
+    lens.handleKey(Qt::Key_Right, Qt::NoModifier, true);
+    EXPECT_EQ(lens.focusNode()->path(), "/r");
+    lens.handleKey(Qt::Key_Left, Qt::NoModifier, true);
+    EXPECT_EQ(lens.focusNode()->path(), "/r/docs");
+    lens.handleKey(Qt::Key_Left, Qt::NoModifier, false);
+    lens.handleKey(Qt::Key_Return, Qt::NoModifier, false);
+    EXPECT_EQ(lens.focusNode()->path(), "/r/docs");
+    lens.handleKey(Qt::Key_Left, Qt::NoModifier, false);
+    lens.handleKey(Qt::Key_Space, Qt::NoModifier, false);
+    EXPECT_TRUE(lens.isMarked(url("/r/docs")));
+    EXPECT_FALSE(lens.handleKey(Qt::Key_A, Qt::NoModifier, false));
+}
+
+TEST(SpaceLensRemoval, TheTreeShrinksUpToTheRootAndThePathHoldsWhereItCan) {
+    LensUnderTest lens;
+    lens.adopt(sampleTree());
+    lens.open(url("/r/docs"));
+    lens.open(url("/r/docs/notes"));
+    lens.toggleMark(url("/r/docs/notes/a.txt"));
+    lens.toggleMark(url("/r/music"));
+    lens.setSelection({url("/r/docs/notes/a.txt"), url("/r/music"), url("/r/music/song")});
+    lens.setCursor(url("/r/docs/notes/b.txt"));
+
+    lens.dropRemoved({url("/r/docs/notes/a.txt"), url("/r/music")});
+    EXPECT_EQ(lens.root()->size(), 550);
+    EXPECT_EQ(paths(lens.path()), (std::vector<std::string>{"/r", "/r/docs", "/r/docs/notes"}));
+    EXPECT_EQ(lens.path()[1]->size(), 450);
+    EXPECT_EQ(lens.focusNode()->size(), 50);
+    EXPECT_EQ(lens.focusNode()->itemCount(), 1);
+    // Marks on removed items and inside them are gone.
+    EXPECT_TRUE(lens.selection().empty());
+    EXPECT_FALSE(lens.cursor());
+
+    // The focus's last child goes: the focus stays open, with no rows.
+    lens.dropRemoved({url("/r/docs/notes/b.txt")});
+    EXPECT_EQ(lens.focusNode()->path(), "/r/docs/notes");
+    EXPECT_TRUE(lens.rowNodes().empty());
+    EXPECT_TRUE(lens.segments().empty());
+    EXPECT_EQ(lens.rows()->rowCount(), 0);
+
+    // The focus itself goes: the path ends at the last folder still there.
+    lens.dropRemoved({url("/r/docs/notes")});
+    EXPECT_EQ(paths(lens.path()), (std::vector<std::string>{"/r", "/r/docs"}));
+}
+
+TEST(SpaceLensRows, RowsFollowTheFocusMarksAndHighlight) {
+    LensUnderTest lens;
+    QAbstractItemModelTester tester(lens.rows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    lens.adopt(sampleTree());
+    LensRowsModel& rows = *lens.rows();
+    ASSERT_EQ(rows.rowCount(), 3);
+    const auto value = [&](int row, int role) { return rows.data(rows.index(row), role); };
+    EXPECT_EQ(value(0, LensRowsModel::NameRole).toString(), "docs");
+    EXPECT_EQ(value(0, LensRowsModel::ShareRole).toString(), "60%");
+    EXPECT_DOUBLE_EQ(value(1, LensRowsModel::FractionRole).toDouble(), 0.3);
+    EXPECT_EQ(value(2, LensRowsModel::NameRole).toString(), "4 small items");
+    EXPECT_FALSE(value(2, LensRowsModel::CanMarkRole).toBool());
+    EXPECT_FALSE(value(2, LensRowsModel::CanOpenRole).toBool());
+    EXPECT_TRUE(value(0, LensRowsModel::CanOpenRole).toBool());
+
+    QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
+    lens.toggleMark(url("/r/docs/notes"));
+    EXPECT_FALSE(changed.isEmpty());
+    EXPECT_TRUE(value(0, LensRowsModel::IsMixedRole).toBool());
+    EXPECT_FALSE(value(0, LensRowsModel::IsOnRole).toBool());
+    lens.toggleMark(url("/r/docs"));
+    EXPECT_TRUE(value(0, LensRowsModel::IsOnRole).toBool());
+    EXPECT_FALSE(value(0, LensRowsModel::IsMixedRole).toBool());
+    lens.setHovered(url("/r/music/song"));
+    EXPECT_TRUE(value(1, LensRowsModel::IsHighlightedRole).toBool());
+
+    lens.open(url("/r/docs"));
+    EXPECT_EQ(rows.rowCount(), 2);
+    EXPECT_TRUE(value(1, LensRowsModel::IsOnRole).toBool());
+}
+
+TEST(SpaceLensTexts, NamesAndShares) {
+    EXPECT_EQ(SpaceLensModel::displayName(URL::file(QDir::homePath().toStdString() + "/")), "Home");
+    EXPECT_EQ(SpaceLensModel::displayName(url("/")), "/");
+    EXPECT_EQ(SpaceLensModel::displayName(url("/a/b c")), "b c");
+    const QLocale english(QLocale::English);
+    EXPECT_EQ(SpaceLensModel::share(1, 10'000'000'000, english), "<1%");
+    EXPECT_EQ(SpaceLensModel::share(0, 10, english), "0%");
+    EXPECT_EQ(SpaceLensModel::share(5, 0, english), "0%");
+    EXPECT_EQ(SpaceLensModel::share(1, 2, QLocale(QLocale::Portuguese, QLocale::Brazil)), "50%");
+}
+
+TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {
+    TestSupport::TempTree tree;
+    tree.file("a/one.bin", 300000);
+    tree.file("a/b/two.bin", 200000);
+    tree.file("three.bin", 100000);
+
+    SpaceLensModel lens;
+    EXPECT_EQ(lens.scanRoot(), URL::file(QDir::homePath().toStdString()));
+    lens.setScanRoot(URL::file(tree.root().string()));
+
+    // Cancelled before anything came back: back to idle, nothing kept.
+    QFuture<void> first = lens.scan();
+    EXPECT_EQ(lens.phase(), ModulePhase::scanning);
+    ASSERT_EQ(lens.progress().steps.size(), 1u);
+    EXPECT_EQ(lens.progress().steps[0].id, "tree");
+    EXPECT_EQ(lens.progress().steps[0].state, ScanStep::State::scanning());
+    lens.stop();
+    ASSERT_TRUE(waitFor(first));
+    EXPECT_EQ(lens.phase(), ModulePhase::idle);
+    EXPECT_FALSE(lens.hasTree());
+
+    ASSERT_TRUE(waitFor(lens.scan()));
+    ASSERT_EQ(lens.phase(), ModulePhase::ready);
+    const Node scanned = lens.root();
+    ASSERT_TRUE(scanned);
+    EXPECT_GE(scanned->size(), 600000);
+    EXPECT_EQ(lens.progress().steps[0].state, ScanStep::State::done(scanned->size()));
+    EXPECT_EQ(lens.progress().itemCount, scanned->itemCount());
+    EXPECT_EQ(lens.path().size(), 1u);
+    EXPECT_FALSE(lens.segments().empty());
+    EXPECT_EQ(lens.painelPhase(), PainelPhase::results);
+
+    lens.toggleMark(URL::file(tree.path("three.bin").string()));
+    QFuture<void> again = lens.scan();
+    lens.stop();
+    ASSERT_TRUE(waitFor(again));
+    EXPECT_EQ(lens.phase(), ModulePhase::ready);
+    EXPECT_EQ(lens.root(), scanned);
+    EXPECT_EQ(lens.markedCount(), 1);
+
+    // A new tree starts with no marks.
+    ASSERT_TRUE(waitFor(lens.scan()));
+    EXPECT_NE(lens.root(), scanned);
+    EXPECT_EQ(lens.markedCount(), 0);
+}
+
+TEST(SpaceLensScan, TheChooserStartsAtTheScanRootAndAnEmptyFolderShowsTheEmptyScreen) {
+    TestSupport::TempTree tree;
+    SpaceLensModel lens;
+    QSignalSpy asked(&lens, &SpaceLensModel::folderChoiceRequested);
+    lens.chooseFolderAndScan();
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_EQ(asked.front().front().toUrl(), QUrl::fromLocalFile(QDir::homePath()));
+
+    lens.scanFolder(QUrl::fromLocalFile(QString::fromStdString(tree.root().string())));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return lens.phase() != ModulePhase::scanning; }, 20000));
+    EXPECT_EQ(lens.painelPhase(), PainelPhase::empty);
+    EXPECT_EQ(lens.scanRoot(), URL::file(tree.root().string()));
+}
