@@ -2,6 +2,7 @@
 // Usage: SunburstDraw [--tree=/tmp/bench-tree] [benchmark flags]. The tree is scanned once, first.
 #include "CleanerCore/DiskTree/DiskTreeScanner.hpp"
 #include "CleanerCore/DiskTree/SunburstLayout.hpp"
+#include "Modules/Lens/SpaceLensModel.hpp"
 #include "Modules/Lens/SunburstCanvas.hpp"
 
 #include <QGuiApplication>
