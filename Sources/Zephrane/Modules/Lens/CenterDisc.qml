@@ -8,7 +8,6 @@ Rectangle {
 
     required property SpaceLensModel lens
     property real diameter: 200
-    readonly property var size: lens.bytesParts(lens.centreBytes)
 
     width: diameter
     height: diameter
@@ -35,24 +34,13 @@ Rectangle {
             font.pixelSize: Math.max(10, root.diameter * 0.075)
             font.weight: Font.DemiBold
         }
-        Row {
+        LEDNumber {
+            objectName: "centreSize"
             anchors.horizontalCenter: parent.horizontalCenter
-            spacing: 4
-            Text {
-                objectName: "centreSize"
-                text: root.size.number
-                color: PainelTheme.accent
-                font.family: PainelTheme.dotFamily
-                font.pixelSize: Math.max(14, root.diameter * 0.18)
-                font.weight: Font.Black
-            }
-            Text {
-                anchors.baseline: parent.children[0].baseline
-                text: root.size.unit
-                color: PainelTheme.muted
-                font.family: PainelTheme.monoFamily
-                font.pixelSize: Math.max(9, root.diameter * 0.06)
-            }
+            size: Math.max(14, root.diameter * 0.2)
+            locale: root.lens.localeName()
+            bytes: root.lens.centreBytes
+            color: PainelTheme.accent
         }
         Text {
             objectName: "centreLine"

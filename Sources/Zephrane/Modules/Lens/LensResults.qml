@@ -89,14 +89,13 @@ Item {
             Column {
                 spacing: 4
                 MonoLabel { text: qsTrId("lens.size"); tone: MonoLabel.Faint }
-                Text {
+                LEDNumber {
                     objectName: "markedSize"
-                    text: root.lens.bytesParts(root.lens.markedBytes).text
+                    size: 24
+                    locale: root.lens.localeName()
+                    bytes: root.lens.markedBytes
                     color: root.lens.markedCount > 0 ? PainelTheme.accent : PainelTheme.muted
-                    font.family: PainelTheme.dotFamily
-                    font.pixelSize: 26
-                    font.weight: Font.Bold
-                    Accessible.name: qsTrId("lens.size") + " " + text
+                    label: qsTrId("lens.size")
                 }
             }
             Column {

@@ -282,6 +282,10 @@ QVariantMap SpaceLensModel::bytesParts(qint64 count) const {
     return {{"text", parts.text}, {"number", parts.number}, {"unit", parts.unit}};
 }
 
+QString SpaceLensModel::localeName() const {
+    return PhaseFormat::locale().bcp47Name();
+}
+
 void SpaceLensModel::toggleMark(const URL& url) {
     if (url.lastPathComponent() == DiskNode::smallItemsComponent)
         return;

@@ -88,6 +88,8 @@ public:
     Q_INVOKABLE bool handleKey(int key, int modifiers, bool rightToLeft);
     // A byte count for the views: text, number and unit.
     Q_INVOKABLE QVariantMap bytesParts(qint64 count) const;
+    // The interface's locale, for the digits.
+    Q_INVOKABLE QString localeName() const;
     // Asks for the confirmation of a removal when something is marked.
     Q_INVOKABLE void requestRemoval() { setConfirming(true); }
 
