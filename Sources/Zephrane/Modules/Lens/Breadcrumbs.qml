@@ -12,12 +12,11 @@ Flow {
     Accessible.role: Accessible.List
     Accessible.name: qsTrId("lens.path")
 
-    PhaseKey {
+    PainelButton {
         objectName: "upKey"
         text: qsTrId("lens.up")
         enabled: root.lens.canGoUp
-        implicitWidth: Math.max(56, implicitHeight + 24)
-        onActivated: root.lens.goUp()
+        onClicked: root.lens.goUp()
     }
 
     Repeater {

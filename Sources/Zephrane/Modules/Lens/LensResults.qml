@@ -24,10 +24,10 @@ Item {
                 Layout.fillWidth: true
                 lens: root.lens
             }
-            PhaseKey {
+            PainelButton {
                 objectName: "chooseOtherKey"
                 text: qsTrId("lens.chooseOther")
-                onActivated: root.lens.chooseFolderAndScan()
+                onClicked: root.lens.chooseFolderAndScan()
             }
         }
 
@@ -109,12 +109,12 @@ Item {
                 }
             }
             Item { Layout.fillWidth: true }
-            PhaseKey {
+            PainelButton {
                 objectName: "removeKey"
                 text: qsTrId("lens.remove")
-                accent: true
+                kind: PainelButtonKind.Accent
                 enabled: root.lens.markedCount > 0
-                onActivated: root.lens.requestRemoval()
+                onClicked: root.lens.requestRemoval()
             }
         }
     }

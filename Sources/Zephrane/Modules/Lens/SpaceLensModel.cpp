@@ -6,6 +6,7 @@
 #include "CleanerCore/Display/PercentText.hpp"
 #include "Modules/Lens/LensRowsModel.hpp"
 #include "Modules/Shared/PhaseFormat.hpp"
+#include "Painel/ByteFormat.hpp"
 
 #include <QDir>
 #include <QUrl>
@@ -278,8 +279,7 @@ bool SpaceLensModel::handleKey(int key, int modifiers, bool rightToLeft) {
 }
 
 QVariantMap SpaceLensModel::bytesParts(qint64 count) const {
-    const PhaseFormat::Bytes parts = PhaseFormat::bytes(count);
-    return {{"text", parts.text}, {"number", parts.number}, {"unit", parts.unit}};
+    return {{"text", ByteFormat::text(static_cast<double>(count))}};
 }
 
 QString SpaceLensModel::localeName() const {

@@ -86,7 +86,7 @@ public:
     // up/down with a modifier go up and open), Return opens, Space marks, Delete asks to remove.
     // Answers whether the key was used.
     Q_INVOKABLE bool handleKey(int key, int modifiers, bool rightToLeft);
-    // A byte count for the views: text, number and unit.
+    // A byte count as text for the views.
     Q_INVOKABLE QVariantMap bytesParts(qint64 count) const;
     // The interface's locale, for the digits.
     Q_INVOKABLE QString localeName() const;
