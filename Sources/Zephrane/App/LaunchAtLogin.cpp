@@ -12,7 +12,7 @@ namespace {
 
 QString configHome() {
     const QString xdg = qEnvironmentVariable("XDG_CONFIG_HOME");
-    // The base directory specification ignores a relative value.
+    // XDG base directories must be absolute; a relative value is ignored.
     return !xdg.isEmpty() && QDir::isAbsolutePath(xdg) ? xdg : QDir::homePath() + QStringLiteral("/.config");
 }
 
