@@ -379,8 +379,9 @@ QString SpaceLensModel::centreLine() const {
     if (!shown || shown == focus)
         return qtTrId("lens.items")
             .arg(PhaseFormat::locale().toString(static_cast<qlonglong>(focus->itemCount())));
+    // "49% of Music": the share is of the folder in focus, which the title above no longer names.
     return qtTrId("lens.center.share")
-        .arg(share(shown->size(), focus->size(), PhaseFormat::locale()), centreTitle());
+        .arg(share(shown->size(), focus->size(), PhaseFormat::locale()), displayName(focus->url()));
 }
 
 int SpaceLensModel::markedCount() const {
