@@ -60,8 +60,8 @@
         <translation>Uninstaller</translation>
     </message>
     <message id="channel.leftovers.short">
-        <source>Left</source>
-        <translation>Left</translation>
+        <source>Orphans</source>
+        <translation>Orphans</translation>
     </message>
     <message id="channel.leftovers.title">
         <source>Leftovers</source>
@@ -300,8 +300,8 @@
         <translation>They are removed at once and can't be recovered.</translation>
     </message>
     <message id="confirm.hint.trash">
-        <source>You can change where cleaned items go in Preferences.</source>
-        <translation>You can change where cleaned items go in Preferences.</translation>
+        <source>You can change where cleaned items go in Settings.</source>
+        <translation>You can change where cleaned items go in Settings.</translation>
     </message>
     <message id="confirm.hint.delete">
         <source>Hold the key until it fills up to confirm.</source>
@@ -598,6 +598,10 @@
     <message id="lens.home">
         <source>Home</source>
         <translation>Home</translation>
+    </message>
+    <message id="lens.items.one">
+        <source>%1 item</source>
+        <translation>%1 item</translation>
     </message>
     <message id="lens.items">
         <source>%1 items</source>

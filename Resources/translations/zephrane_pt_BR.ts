@@ -60,7 +60,7 @@
         <translation>Desinstalador</translation>
     </message>
     <message id="channel.leftovers.short">
-        <source>Left</source>
+        <source>Orphans</source>
         <translation>Restos</translation>
     </message>
     <message id="channel.leftovers.title">
@@ -285,7 +285,7 @@
     </message>
     <message id="confirm.question.trash">
         <source>Move the selected items to the Trash?</source>
-        <translation>Mover os itens selecionados para o Lixo?</translation>
+        <translation>Mover os itens selecionados para a Lixeira?</translation>
     </message>
     <message id="confirm.question.delete">
         <source>Delete the selected items for good?</source>
@@ -293,15 +293,15 @@
     </message>
     <message id="confirm.body.trash">
         <source>They stay in the Trash until you empty it, so you can still put them back.</source>
-        <translation>Eles ficam no Lixo até você esvaziá-lo, então ainda dá para recuperá-los.</translation>
+        <translation>Eles ficam na Lixeira até você esvaziá-la, então ainda dá para recuperá-los.</translation>
     </message>
     <message id="confirm.body.delete">
         <source>They are removed at once and can't be recovered.</source>
         <translation>Eles são removidos na hora e não podem ser recuperados.</translation>
     </message>
     <message id="confirm.hint.trash">
-        <source>You can change where cleaned items go in Preferences.</source>
-        <translation>Você pode mudar para onde vão os itens limpos nas Preferências.</translation>
+        <source>You can change where cleaned items go in Settings.</source>
+        <translation>Você pode mudar para onde vão os itens limpos nos Ajustes.</translation>
     </message>
     <message id="confirm.hint.delete">
         <source>Hold the key until it fills up to confirm.</source>
@@ -449,7 +449,7 @@
     </message>
     <message id="success.body.trash">
         <source>The items are in the Trash. Empty it to get the space back.</source>
-        <translation>Os itens estão no Lixo. Esvazie-o para recuperar o espaço.</translation>
+        <translation>Os itens estão na Lixeira. Esvazie-a para recuperar o espaço.</translation>
     </message>
     <message id="success.body.delete">
         <source>The items were deleted for good.</source>
@@ -473,7 +473,7 @@
     </message>
     <message id="success.emptyTrash">
         <source>Empty Trash</source>
-        <translation>Esvaziar o Lixo</translation>
+        <translation>Esvaziar a Lixeira</translation>
     </message>
     <message id="success.failures">
         <source>Not removed: %1</source>
@@ -557,7 +557,7 @@
     </message>
     <message id="destination.trash">
         <source>Trash</source>
-        <translation>Lixo</translation>
+        <translation>Lixeira</translation>
     </message>
     <message id="destination.delete">
         <source>Delete</source>
@@ -598,6 +598,10 @@
     <message id="lens.home">
         <source>Home</source>
         <translation>Pasta pessoal</translation>
+    </message>
+    <message id="lens.items.one">
+        <source>%1 item</source>
+        <translation>%1 item</translation>
     </message>
     <message id="lens.items">
         <source>%1 items</source>

@@ -1,14 +1,14 @@
 import QtQuick
 import Zephrane
 
-// A meter of LED cells; screen readers hear its label and the lit share as a percentage, or the
-// value text when one is given.
+// A meter of LED cells; screen readers hear its label with the lit share as a percentage, and the
+// value text as its description when one is given.
 LEDMeterCanvas {
     id: root
 
     enum Tint { Text, Accent, Muted }
     property string label
-    property string value
+    property string valueText
     property int tint: LEDMeter.Text
 
     readonly property string percentText: qsTrId("painel.percent").arg(Math.round(Math.max(0, Math.min(1, root.fraction)) * 100))
@@ -21,6 +21,6 @@ LEDMeterCanvas {
     offColor: PainelTheme.ledOff
 
     Accessible.role: Accessible.ProgressBar
-    Accessible.name: root.label
-    Accessible.description: root.value.length > 0 ? root.value : root.percentText
+    Accessible.name: root.label.length > 0 ? root.label + ", " + root.percentText : root.percentText
+    Accessible.description: root.valueText
 }

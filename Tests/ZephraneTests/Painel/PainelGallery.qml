@@ -144,7 +144,7 @@ Window {
                 height: 12
                 LayoutMirroring.enabled: true
                 LayoutMirroring.childrenInherit: true
-                LEDMeter { width: 300; height: 12; fraction: 0.3; cells: 20; value: "right to left" }
+                LEDMeter { objectName: "mirroredMeter"; width: 300; height: 12; fraction: 0.3; cells: 20; valueText: "right to left" }
             }
             Row {
                 spacing: 12

@@ -109,8 +109,12 @@ TEST_F(Gallery, NumbersAndMetersReadAsLabelAndValue) {
     QAccessibleInterface* meter = QAccessible::queryAccessibleInterface(item("meter"));
     ASSERT_NE(meter, nullptr);
     EXPECT_EQ(meter->role(), QAccessible::ProgressBar);
-    EXPECT_EQ(meter->text(QAccessible::Name), "Disk");
-    EXPECT_EQ(meter->text(QAccessible::Description), "62%");
+    // The share is always heard, whatever value text a meter also carries.
+    EXPECT_EQ(meter->text(QAccessible::Name), "Disk, 62%");
+    QAccessibleInterface* mirrored = QAccessible::queryAccessibleInterface(item("mirroredMeter"));
+    ASSERT_NE(mirrored, nullptr);
+    EXPECT_TRUE(mirrored->text(QAccessible::Name).endsWith("30%"));
+    EXPECT_EQ(mirrored->text(QAccessible::Description), "right to left");
 }
 
 TEST_F(Gallery, TheHoldKeyFiresFromAFullHoldOrFromTheDialogButNotFromAShortHold) {

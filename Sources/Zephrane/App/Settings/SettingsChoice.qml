@@ -39,7 +39,7 @@ Rectangle {
                 Layout.fillHeight: true
                 Layout.preferredWidth: label.implicitWidth + 36
                 radius: 5
-                color: lit ? PainelTheme.raised : hover.hovered ? Qt.rgba(1, 1, 1, 0.03) : "transparent"
+                color: lit ? PainelTheme.raised : hover.hovered ? PainelTheme.divider : "transparent"
                 border.width: lit ? 1 : 0
                 border.color: PainelTheme.border
                 activeFocusOnTab: true
