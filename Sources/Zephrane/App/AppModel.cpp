@@ -1,36 +1,23 @@
 #include "App/AppModel.hpp"
 
-#include <QVariantMap>
+#include "App/ChannelList.hpp"
 
 AppModel::AppModel(QObject* parent)
-    : QObject(parent), junkModel(new SystemJunkModel(this)), lens(new SpaceLensModel(this)) {
+    : QObject(parent), settings(new Preferences(this)), junkModel(new SystemJunkModel(*settings, this)),
+      lens(new SpaceLensModel(*settings, this)), channelList(new ChannelList(*this, this)) {
     junkModel->actions()->setEmptyTrash([this] { open(Channel::trash); });
 }
 
 void AppModel::open(Channel channel) {
-    if (channel == current)
+    if (channel == currentChannel)
         return;
-    current = channel;
+    currentChannel = channel;
     emit selectionChanged();
 }
 
 void AppModel::openRaw(int raw) {
     if (auto channel = Channels::fromRaw(raw))
         open(*channel);
-}
-
-QVariantList AppModel::channels() const {
-    QVariantList list;
-    for (Channel channel : Channels::allCases) {
-        list.append(QVariantMap{
-            {"raw", Channels::rawValue(channel)},
-            {"title", Channels::title(channel)},
-            {"shortLabel", Channels::shortLabel(channel)},
-            {"keyEquivalent", Channels::keyEquivalent(channel)},
-            {"accessibilityName", Channels::accessibilityName(channel)},
-        });
-    }
-    return list;
 }
 
 void AppModel::setSmartScanStartedAt(const QDateTime& value) {

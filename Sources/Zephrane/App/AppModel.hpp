@@ -1,23 +1,27 @@
 #pragma once
 
 #include "App/Channel.hpp"
+#include "App/ChannelInfo.hpp"
+#include "App/ChannelList.hpp"
+#include "App/Preferences.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 
 #include <QDateTime>
 #include <QObject>
-#include <QVariantList>
 #include <QtQml/qqmlregistration.h>
 
-// The composition root: owns the model of every channel, created once in a fixed order, none of
-// which starts work when it is made. Models never know each other; views cross channels only
-// through open().
+// The composition root: owns the preferences and the model of every channel, created once in a
+// fixed order, none of which starts work when it is made. Models never know each other; views
+// cross channels only through open().
 class AppModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("AppModel is made once, by the program")
     Q_PROPERTY(int selection READ selectionRaw WRITE openRaw NOTIFY selectionChanged)
-    Q_PROPERTY(QVariantList channels READ channels CONSTANT)
+    Q_PROPERTY(ChannelInfo current READ current NOTIFY selectionChanged)
+    Q_PROPERTY(ChannelList* channels READ channels CONSTANT)
+    Q_PROPERTY(Preferences* preferences READ preferences CONSTANT)
     Q_PROPERTY(SystemJunkModel* junk READ junk CONSTANT)
     Q_PROPERTY(SpaceLensModel* spaceLens READ spaceLens CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
@@ -28,16 +32,17 @@ class AppModel : public QObject {
 public:
     explicit AppModel(QObject* parent = nullptr);
 
-    Channel selection() const { return current; }
-    int selectionRaw() const { return Channels::rawValue(current); }
+    Channel selection() const { return currentChannel; }
+    int selectionRaw() const { return Channels::rawValue(currentChannel); }
     // Changes and notifies only when the channel differs, so observers are not woken needlessly.
     void open(Channel channel);
     // For QML and shortcuts: a raw value with no channel is ignored.
     Q_INVOKABLE void openRaw(int raw);
+    // The channel on show, with its screen and model.
+    ChannelInfo current() const { return ChannelInfo::of(currentChannel, *this); }
 
-    // One entry per channel in column order: raw, title, shortLabel, keyEquivalent, accessibilityName.
-    QVariantList channels() const;
-
+    ChannelList* channels() const { return channelList; }
+    Preferences* preferences() const { return settings; }
     SystemJunkModel* junk() const { return junkModel; }
     SpaceLensModel* spaceLens() const { return lens; }
 
@@ -51,11 +56,13 @@ signals:
     void smartScanChanged();
 
 private:
+    Preferences* settings;
     // The channels' models, in the order they are made.
     SystemJunkModel* junkModel;
     SpaceLensModel* lens;
+    ChannelList* channelList;
 
-    Channel current = Channel::home;
+    Channel currentChannel = Channel::home;
     QDateTime scanStarted;
     QDateTime scanFinished;
 };

@@ -6,7 +6,7 @@
 #include <optional>
 
 // The eight sections of the window, in column order. Raw values 0-7 are stable: shortcuts and QML
-// refer to channels by them.
+// refer to channels by them. What each one shows and owns is in ChannelTable.
 enum class Channel { home = 0, junk, lens, large, apps, leftovers, trash, updates };
 
 namespace Channels {
@@ -18,8 +18,6 @@ inline constexpr std::array<Channel, 8> allCases{Channel::home,  Channel::junk, 
 constexpr int rawValue(Channel channel) { return static_cast<int>(channel); }
 std::optional<Channel> fromRaw(int raw);
 
-const char* shortKey(Channel channel); // "channel.junk.short"
-const char* titleKey(Channel channel); // "channel.junk.title"
 QString keyEquivalent(Channel channel); // "1"
 QString title(Channel channel);
 QString shortLabel(Channel channel);

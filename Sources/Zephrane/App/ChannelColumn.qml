@@ -47,11 +47,10 @@ Rectangle {
         Repeater {
             model: root.appModel.channels
             delegate: ShellChannelKey {
-                required property var modelData
+                required property int raw
                 Layout.fillWidth: true
-                info: modelData
-                lit: root.appModel.selection === modelData.raw
-                onActivated: root.appModel.openRaw(modelData.raw)
+                lit: root.appModel.selection === raw
+                onActivated: root.appModel.openRaw(raw)
             }
         }
 

@@ -6,9 +6,8 @@ import Zephrane
 Item {
     id: root
 
-    required property int channel
     required property AppModel appModel
-    readonly property var info: appModel.channels[channel]
+    required property channelInfo info
 
     Column {
         anchors.left: parent.left

@@ -19,6 +19,9 @@ Window {
     flags: Qt.Window | Qt.FramelessWindowHint
     color: PainelTheme.bg
 
+    // Every window of this engine shares one theme, coloured by the user's accent.
+    Component.onCompleted: PainelTheme.follow(appModel.preferences)
+
     DragHandler {
         target: null
         grabPermissions: PointerHandler.TakeOverForbidden
@@ -42,6 +45,7 @@ Window {
     SettingsView {
         id: settingsView
         visible: false
+        preferences: main.appModel.preferences
         onWelcomeRequested: {
             main.show()
             main.raise()

@@ -1,4 +1,4 @@
-// Not Bound: Qt 6.4 refuses to let a Loader instantiate bound components declared beside it.
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Zephrane
@@ -45,21 +45,25 @@ Item {
                 z: 2
             }
 
+            // The screen of the channel on show, as the channel table names it. Each screen is
+            // given the application model and its channel.
             Loader {
                 id: channelView
+                objectName: "channelView"
                 anchors.fill: parent
                 anchors.topMargin: 8
-                sourceComponent: [home, junk, lens, large, apps, leftovers, trash, updates][root.appModel.selection]
+                focus: true
+
+                function show() {
+                    const channel = root.appModel.current
+                    setSource(channel.screen, { appModel: root.appModel, info: channel })
+                }
+                Component.onCompleted: show()
+                Connections {
+                    target: root.appModel
+                    function onSelectionChanged() { channelView.show() }
+                }
             }
         }
     }
-
-    Component { id: home; ChannelPlaceholder { channel: 0; appModel: root.appModel } }
-    Component { id: junk; JunkChannel { appModel: root.appModel } }
-    Component { id: lens; LensChannel { appModel: root.appModel } }
-    Component { id: large; ChannelPlaceholder { channel: 3; appModel: root.appModel } }
-    Component { id: apps; ChannelPlaceholder { channel: 4; appModel: root.appModel } }
-    Component { id: leftovers; ChannelPlaceholder { channel: 5; appModel: root.appModel } }
-    Component { id: trash; ChannelPlaceholder { channel: 6; appModel: root.appModel } }
-    Component { id: updates; ChannelPlaceholder { channel: 7; appModel: root.appModel } }
 }

@@ -1,6 +1,7 @@
 #include "App/MainWindow.hpp"
 
 #include "App/AppModel.hpp"
+#include "App/ZephraneModule.hpp"
 
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
@@ -9,7 +10,7 @@ namespace MainWindow {
 
 QQuickWindow* load(QQmlApplicationEngine& engine, AppModel& model) {
     engine.setInitialProperties({{QStringLiteral("appModel"), QVariant::fromValue(&model)}});
-    engine.load(QUrl(QStringLiteral("qrc:/Zephrane/Main.qml")));
+    engine.load(QUrl(QString::fromLatin1(ZephraneModule::root) + QStringLiteral("App/Main.qml")));
     const auto roots = engine.rootObjects();
     return roots.isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(roots.constLast());
 }

@@ -1,87 +1,81 @@
 #include "App/Preferences.hpp"
 
 #include "App/LaunchAtLogin.hpp"
-#include "Modules/Shared/CleanDestination.hpp"
-#include "Painel/PainelAccent.hpp"
 
-#include <QList>
 #include <QSettings>
 
 namespace {
 
-// Every live instance, so that a write through one wakes all (GUI thread only).
-QList<Preferences*>& instances() {
-    static QList<Preferences*> all;
-    return all;
+QVariant stored(const char* key) {
+    return QSettings().value(QLatin1String(key));
 }
 
 bool flag(const char* key, bool fallback) {
-    return QSettings().value(QLatin1String(key), fallback).toBool();
+    const QVariant value = stored(key);
+    return value.isValid() ? value.toBool() : fallback;
 }
 
 } // namespace
 
-Preferences::Preferences(QObject* parent) : QObject(parent) {
-    instances().append(this);
-}
+Preferences::Preferences(QObject* parent) : QObject(parent) {}
 
-Preferences::~Preferences() {
-    instances().removeOne(this);
-}
-
-void Preferences::write(const char* key, const QVariant& value) {
+void Preferences::write(const char* key, const QVariant& value, void (Preferences::*changed)()) {
     QSettings settings;
-    if (settings.value(QLatin1String(key)) == value && settings.contains(QLatin1String(key)))
+    if (settings.contains(QLatin1String(key)) && settings.value(QLatin1String(key)) == value)
         return;
     settings.setValue(QLatin1String(key), value);
-    for (Preferences* each : instances())
-        emit each->changed();
+    emit(this->*changed)();
 }
 
 bool Preferences::showMenuBarAgent() const {
     return flag(showMenuBarAgentKey, true);
 }
 void Preferences::setShowMenuBarAgent(bool on) {
-    write(showMenuBarAgentKey, on);
+    write(showMenuBarAgentKey, on, &Preferences::showMenuBarAgentChanged);
 }
 
 bool Preferences::launchAtLogin() const {
     return flag(launchAtLoginKey, false);
 }
 void Preferences::setLaunchAtLogin(bool on) {
-    write(launchAtLoginKey, LaunchAtLogin::set(on));
+    write(launchAtLoginKey, LaunchAtLogin::set(on), &Preferences::launchAtLoginChanged);
 }
 void Preferences::refreshLaunchAtLogin() {
-    write(launchAtLoginKey, LaunchAtLogin::isEnabled());
+    write(launchAtLoginKey, LaunchAtLogin::isEnabled(), &Preferences::launchAtLoginChanged);
 }
 
 bool Preferences::notifyOutdatedApps() const {
     return flag(notifyOutdatedAppsKey, false);
 }
 void Preferences::setNotifyOutdatedApps(bool on) {
-    write(notifyOutdatedAppsKey, on);
+    write(notifyOutdatedAppsKey, on, &Preferences::notifyOutdatedAppsChanged);
 }
 
-QString Preferences::cleanDestination() const {
-    return CleanDestinations::rawValue(CleanDestinations::stored());
+CleanDestination Preferences::cleanDestination() const {
+    return CleanDestinations::fromRaw(stored(cleanDestinationKey).toString()).value_or(CleanDestination::trash);
 }
-void Preferences::setCleanDestination(const QString& raw) {
-    if (CleanDestinations::fromRaw(raw))
-        write(cleanDestinationKey, raw);
+void Preferences::setCleanDestination(CleanDestination destination) {
+    write(cleanDestinationKey, CleanDestinations::rawValue(destination), &Preferences::cleanDestinationChanged);
+}
+void Preferences::setCleanDestinationRaw(const QString& raw) {
+    if (auto destination = CleanDestinations::fromRaw(raw))
+        setCleanDestination(*destination);
 }
 
-QString Preferences::accent() const {
-    const QString raw = QSettings().value(QLatin1String(accentKey)).toString();
-    return PainelAccents::rawValue(PainelAccents::fromRaw(raw).value_or(PainelAccents::standard));
+PainelAccent Preferences::accent() const {
+    return PainelAccents::fromRaw(stored(accentKey).toString()).value_or(PainelAccents::standard);
 }
-void Preferences::setAccent(const QString& raw) {
-    if (PainelAccents::fromRaw(raw))
-        write(accentKey, raw);
+void Preferences::setAccent(PainelAccent accent) {
+    write(accentKey, PainelAccents::rawValue(accent), &Preferences::accentChanged);
+}
+void Preferences::setAccentRaw(const QString& raw) {
+    if (auto accent = PainelAccents::fromRaw(raw))
+        setAccent(*accent);
 }
 
 bool Preferences::onboardingDone() const {
     return flag(onboardingDoneKey, false);
 }
 void Preferences::setOnboardingDone(bool done) {
-    write(onboardingDoneKey, done);
+    write(onboardingDoneKey, done, &Preferences::onboardingDoneChanged);
 }

@@ -1,34 +1,38 @@
 #pragma once
 
 #include "Modules/Shared/CleanDestination.hpp"
+#include "Painel/PainelAccent.hpp"
 
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
 // The settings the user makes once, under their fixed keys in the application's settings, each
-// with its default when never written. Every instance reads the same store and every instance
-// notifies when any of them writes, so a view, the tray agent and a channel never disagree.
+// with its default when never written. The only reader and writer of those keys: the composition
+// root makes one and hands it to every model and view that shows a setting, so a change made in
+// one place shows everywhere at once.
 class Preferences : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(bool showMenuBarAgent READ showMenuBarAgent WRITE setShowMenuBarAgent NOTIFY changed)
-    Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY changed)
-    Q_PROPERTY(bool notifyOutdatedApps READ notifyOutdatedApps WRITE setNotifyOutdatedApps NOTIFY changed)
-    Q_PROPERTY(QString cleanDestination READ cleanDestination WRITE setCleanDestination NOTIFY changed)
-    Q_PROPERTY(QString accent READ accent WRITE setAccent NOTIFY changed)
-    Q_PROPERTY(bool onboardingDone READ onboardingDone WRITE setOnboardingDone NOTIFY changed)
+    QML_UNCREATABLE("The application model owns the preferences")
+    Q_PROPERTY(bool showMenuBarAgent READ showMenuBarAgent WRITE setShowMenuBarAgent NOTIFY showMenuBarAgentChanged)
+    Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
+    Q_PROPERTY(bool notifyOutdatedApps READ notifyOutdatedApps WRITE setNotifyOutdatedApps NOTIFY
+                   notifyOutdatedAppsChanged)
+    Q_PROPERTY(QString cleanDestination READ cleanDestinationRaw WRITE setCleanDestinationRaw NOTIFY
+                   cleanDestinationChanged)
+    Q_PROPERTY(QString accent READ accentRaw WRITE setAccentRaw NOTIFY accentChanged)
+    Q_PROPERTY(bool onboardingDone READ onboardingDone WRITE setOnboardingDone NOTIFY onboardingDoneChanged)
 
 public:
     static constexpr const char* showMenuBarAgentKey = "showMenuBarAgent";
     static constexpr const char* launchAtLoginKey = "launchAtLogin";
     static constexpr const char* notifyOutdatedAppsKey = "notifyOutdatedApps";
-    static constexpr const char* cleanDestinationKey = CleanDestinations::settingsKey;
+    static constexpr const char* cleanDestinationKey = "cleanDestination";
     static constexpr const char* accentKey = "accent";
     static constexpr const char* onboardingDoneKey = "onboardingDone";
 
     explicit Preferences(QObject* parent = nullptr);
-    ~Preferences() override;
 
     bool showMenuBarAgent() const;
     void setShowMenuBarAgent(bool on);
@@ -40,18 +44,28 @@ public:
     Q_INVOKABLE void refreshLaunchAtLogin();
     bool notifyOutdatedApps() const;
     void setNotifyOutdatedApps(bool on);
-    // "trash" or "delete"; anything else stored reads as "trash".
-    QString cleanDestination() const;
-    void setCleanDestination(const QString& raw);
-    // A raw accent ("orange", "lime", "blue"); anything else stored reads as "orange".
-    QString accent() const;
-    void setAccent(const QString& raw);
+    // An absent or unknown stored value reads as trash.
+    CleanDestination cleanDestination() const;
+    void setCleanDestination(CleanDestination destination);
+    QString cleanDestinationRaw() const { return CleanDestinations::rawValue(cleanDestination()); }
+    void setCleanDestinationRaw(const QString& raw);
+    // An absent or unknown stored value reads as orange.
+    PainelAccent accent() const;
+    void setAccent(PainelAccent accent);
+    QString accentRaw() const { return PainelAccents::rawValue(accent()); }
+    void setAccentRaw(const QString& raw);
     bool onboardingDone() const;
     void setOnboardingDone(bool done);
 
 signals:
-    void changed();
+    void showMenuBarAgentChanged();
+    void launchAtLoginChanged();
+    void notifyOutdatedAppsChanged();
+    void cleanDestinationChanged();
+    void accentChanged();
+    void onboardingDoneChanged();
 
 private:
-    static void write(const char* key, const QVariant& value);
+    // Stores `value` under `key` and tells `changed` when it differs from what was there.
+    void write(const char* key, const QVariant& value, void (Preferences::*changed)());
 };

@@ -12,7 +12,7 @@ Rectangle {
 
     implicitHeight: 42
     radius: 7
-    color: lit ? PainelTheme.raised : (hover.hovered ? Qt.rgba(1, 1, 1, 0.03) : "transparent")
+    color: lit ? PainelTheme.raised : (hover.hovered ? PainelTheme.divider : "transparent")
     border.width: lit ? 1 : 0
     border.color: PainelTheme.border
     activeFocusOnTab: true

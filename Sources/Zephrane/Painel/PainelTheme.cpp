@@ -4,37 +4,18 @@
 #include "Painel/PainelButtonSize.hpp"
 #include "Painel/PainelDesktopSettings.hpp"
 
+#include "App/Preferences.hpp"
+
 #include <QDirIterator>
 #include <QFontDatabase>
-#include <QList>
-#include <QSettings>
-
-namespace {
-
-const QString accentKey = QStringLiteral("accent");
-
-// Each QML engine makes its own theme; a change of accent reaches all of them.
-QList<PainelTheme*>& liveThemes() {
-    static QList<PainelTheme*> themes;
-    return themes;
-}
-
-} // namespace
 
 PainelTheme::PainelTheme(QObject* parent) : QObject(parent) {
-    chosenAccent =
-        PainelAccents::fromRaw(QSettings().value(accentKey).toString()).value_or(PainelAccents::standard);
-    liveThemes().append(this);
     connect(&PainelDesktopSettings::shared(), &PainelDesktopSettings::changed, this,
             &PainelTheme::followDesktop);
     const PainelDesktopPreferences desktop = PainelDesktopSettings::shared().preferences();
     contrast = desktop.increasedContrast.value_or(false);
     lessMotion = desktop.reducedMotion.value_or(false);
     rebuild();
-}
-
-PainelTheme::~PainelTheme() {
-    liveThemes().removeAll(this);
 }
 
 void PainelTheme::installFonts() {
@@ -48,14 +29,23 @@ void PainelTheme::installFonts() {
 }
 
 void PainelTheme::setAccentChoice(PainelAccent accent) {
-    QSettings().setValue(accentKey, PainelAccents::rawValue(accent));
-    for (PainelTheme* theme : liveThemes())
-        theme->applyAccent(accent);
+    if (accent == chosenAccent)
+        return;
+    chosenAccent = accent;
+    rebuild();
 }
 
-void PainelTheme::setAccentName(const QString& name) {
-    if (const auto accent = PainelAccents::fromRaw(name))
-        setAccentChoice(*accent);
+void PainelTheme::follow(Preferences* preferences) {
+    if (preferences == followed)
+        return;
+    if (followed)
+        disconnect(followed, nullptr, this, nullptr);
+    followed = preferences;
+    if (!preferences)
+        return;
+    connect(preferences, &Preferences::accentChanged, this,
+            [this] { setAccentChoice(followed->accent()); });
+    setAccentChoice(preferences->accent());
 }
 
 QStringList PainelTheme::accentNames() const {
@@ -67,13 +57,6 @@ QStringList PainelTheme::accentNames() const {
 
 QColor PainelTheme::accentColor(const QString& name) const {
     return PainelAccents::color(PainelAccents::fromRaw(name).value_or(PainelAccents::standard));
-}
-
-void PainelTheme::applyAccent(PainelAccent accent) {
-    if (accent == chosenAccent)
-        return;
-    chosenAccent = accent;
-    rebuild();
 }
 
 void PainelTheme::setIncreasedContrast(bool on) {

@@ -2,13 +2,18 @@
 
 #include "Painel/PainelPalette.hpp"
 
+#include <QPointer>
+
 #include <QObject>
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
 // The palette, fonts and motion setting in force, for every view. The one stateful singleton the
-// views may read: it follows the stored accent and the desktop's contrast and motion settings, and
+// views may read: it follows the accent of the preferences it is given and the desktop's contrast and
+// motion settings, and
 // holds the metrics of the keys so that every key of every screen has the same shape.
+class Preferences;
+
 class PainelTheme : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -27,7 +32,7 @@ class PainelTheme : public QObject {
     Q_PROPERTY(QColor warn READ warn NOTIFY paletteChanged)
     Q_PROPERTY(QColor accent READ accent NOTIFY paletteChanged)
     Q_PROPERTY(QColor onAccent READ onAccent NOTIFY paletteChanged)
-    Q_PROPERTY(QString accentName READ accentName WRITE setAccentName NOTIFY paletteChanged)
+    Q_PROPERTY(QString accentName READ accentName NOTIFY paletteChanged)
     Q_PROPERTY(QStringList accentNames READ accentNames CONSTANT)
     Q_PROPERTY(bool increasedContrast READ increasedContrast WRITE setIncreasedContrast NOTIFY paletteChanged)
     Q_PROPERTY(bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY reducedMotionChanged)
@@ -37,7 +42,6 @@ class PainelTheme : public QObject {
 
 public:
     explicit PainelTheme(QObject* parent = nullptr);
-    ~PainelTheme() override;
 
     // Registers the bundled fonts once per process; call before the first window loads.
     static void installFonts();
@@ -59,11 +63,12 @@ public:
     QColor onAccent() const { return colors.onAccent; }
 
     PainelAccent accentChoice() const { return chosenAccent; }
-    // Stores the choice under "accent" and recolours every theme of the process at once.
+    // Colours this theme with `accent` until the followed preferences say otherwise.
     void setAccentChoice(PainelAccent accent);
     QString accentName() const { return PainelAccents::rawValue(chosenAccent); }
-    // Unknown names are ignored.
-    void setAccentName(const QString& name);
+    // Takes the accent from `preferences` from now on (each window's engine has its own theme;
+    // all follow the one set of preferences).
+    Q_INVOKABLE void follow(Preferences* preferences);
     QStringList accentNames() const;
     // The colour of an accent by name, for swatches of the picker.
     Q_INVOKABLE QColor accentColor(const QString& name) const;
@@ -90,11 +95,11 @@ signals:
 
 private:
     void rebuild();
-    void applyAccent(PainelAccent accent);
     void followDesktop();
 
     PainelAccent chosenAccent = PainelAccents::standard;
     bool contrast = false;
     bool lessMotion = false;
     PainelPalette colors;
+    QPointer<Preferences> followed;
 };

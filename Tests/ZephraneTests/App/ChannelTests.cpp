@@ -1,6 +1,6 @@
-#include "App/AppLifecycle.hpp"
 #include "App/AppModel.hpp"
 #include "App/Channel.hpp"
+#include "App/ChannelTable.hpp"
 
 #include <QSignalSpy>
 
@@ -14,8 +14,9 @@ TEST(Channel, TableOfRawValuesKeysAndShortcuts) {
         EXPECT_EQ(Channels::rawValue(channel), raw);
         EXPECT_EQ(Channels::fromRaw(raw), channel);
         EXPECT_EQ(Channels::keyEquivalent(channel), QString::number(raw));
-        EXPECT_EQ(QString(Channels::shortKey(channel)), QString("channel.%1.short").arg(names[raw]));
-        EXPECT_EQ(QString(Channels::titleKey(channel)), QString("channel.%1.title").arg(names[raw]));
+        const ChannelRow& row = ChannelTable::row(channel);
+        EXPECT_EQ(QString(row.shortKey), QString("channel.%1.short").arg(names[raw]));
+        EXPECT_EQ(QString(row.titleKey), QString("channel.%1.title").arg(names[raw]));
         EXPECT_TRUE(Channels::accessibilityName(channel).contains(Channels::title(channel)));
     }
     EXPECT_EQ(Channels::fromRaw(8), std::nullopt);
@@ -41,9 +42,12 @@ TEST(AppModel, StartsHomeAndNotifiesOnlyWhenTheChannelChanges) {
     EXPECT_EQ(spy.count(), 1);
 }
 
-TEST(AppLifecycle, ClosingTheWindowQuitsUnlessAnAgentHoldsTheProcessInATray) {
-    EXPECT_TRUE(AppLifecycle::quitsOnLastWindowClosed(false, true));
-    EXPECT_TRUE(AppLifecycle::quitsOnLastWindowClosed(true, false)) << "never linger invisible";
-    EXPECT_TRUE(AppLifecycle::quitsOnLastWindowClosed(false, false));
-    EXPECT_FALSE(AppLifecycle::quitsOnLastWindowClosed(true, true));
+TEST(AppModel, EachBuiltChannelHandsItsOwnModelToItsScreen) {
+    AppModel model;
+    EXPECT_EQ(ChannelInfo::of(Channel::junk, model).model, model.junk());
+    EXPECT_EQ(ChannelInfo::of(Channel::lens, model).model, model.spaceLens());
+    EXPECT_EQ(ChannelInfo::of(Channel::trash, model).screen, ChannelInfo::of(Channel::updates, model).screen)
+        << "channels not built yet share the placeholder";
+    model.open(Channel::lens);
+    EXPECT_EQ(model.current().title, Channels::title(Channel::lens));
 }

@@ -41,7 +41,7 @@ TEST_F(ShellWindow, EveryChannelLoadsWithoutWarningsAndIsPhotographed) {
         model.open(channel);
         QmlTestSupport::settle();
         const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << Channels::titleKey(channel) << ": " << seen.join('\n').toStdString();
+        EXPECT_TRUE(seen.isEmpty()) << Channels::title(channel).toStdString() << ": " << seen.join('\n').toStdString();
         QmlTestSupport::saveScreenshot(*window, QStringLiteral("shell-%1").arg(Channels::rawValue(channel)));
     }
 }

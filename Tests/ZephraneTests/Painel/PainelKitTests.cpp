@@ -125,3 +125,4 @@ TEST(DotMatrixLogoCanvas, PowersOnOneLetterAtATimeWithAnEaseOut) {
     logo.setLitCount(99);
     EXPECT_EQ(logo.litCount(), 8);
 }
+

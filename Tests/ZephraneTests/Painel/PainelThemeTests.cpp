@@ -1,5 +1,6 @@
 #include "Painel/PainelDesktopSettings.hpp"
 #include "Painel/PainelPalette.hpp"
+#include "App/Preferences.hpp"
 #include "Painel/PainelTheme.hpp"
 
 #include <QDBusVariant>
@@ -46,25 +47,23 @@ TEST(PainelPalette, TheAccentComesFromTheChoice) {
     EXPECT_EQ(PainelAccents::fromRaw("purple"), std::nullopt);
 }
 
-TEST(PainelTheme, AnAccentPickedInOneThemeIsStoredAndRecoloursEveryTheme) {
-    QSettings().remove("accent");
-    PainelTheme picker;
-    PainelTheme elsewhere;
-    EXPECT_EQ(picker.accentName(), "orange");
-    QSignalSpy recoloured(&elsewhere, &PainelTheme::paletteChanged);
+TEST(PainelTheme, EveryThemeFollowsTheAccentOfThePreferences) {
+    Preferences preferences;
+    preferences.setAccent(PainelAccent::lime);
+    PainelTheme main;
+    PainelTheme settings;
+    main.follow(&preferences);
+    settings.follow(&preferences);
+    EXPECT_EQ(main.accentName(), "lime") << "a theme takes the stored choice when it starts to follow";
+    QSignalSpy recoloured(&settings, &PainelTheme::paletteChanged);
 
-    picker.setAccentName("blue");
-    EXPECT_EQ(QSettings().value("accent").toString(), "blue");
-    EXPECT_EQ(elsewhere.accent(), hex("#3AA0FF"));
+    preferences.setAccentRaw("blue");
+    EXPECT_EQ(main.accent(), hex("#3AA0FF"));
+    EXPECT_EQ(settings.accent(), hex("#3AA0FF"));
     EXPECT_EQ(recoloured.count(), 1);
-
-    picker.setAccentName("no such colour");
-    EXPECT_EQ(QSettings().value("accent").toString(), "blue");
-    EXPECT_EQ(PainelTheme().accentChoice(), PainelAccent::blue) << "a new theme reads the stored choice";
-
-    QSettings().setValue("accent", "garbage");
-    EXPECT_EQ(PainelTheme().accentChoice(), PainelAccent::orange);
-    QSettings().remove("accent");
+    preferences.setAccentRaw("no such colour");
+    EXPECT_EQ(recoloured.count(), 1);
+    preferences.setAccent(PainelAccent::orange);
 }
 
 TEST(PainelTheme, NothingLastsUnderReducedMotion) {

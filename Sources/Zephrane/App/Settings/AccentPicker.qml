@@ -15,7 +15,7 @@ Row {
         delegate: Rectangle {
             id: swatch
             required property string modelData
-            readonly property bool lit: PainelTheme.accentName === modelData
+            readonly property bool lit: root.preferences.accent === modelData
 
             width: 26
             height: 26
@@ -36,7 +36,6 @@ Row {
             Keys.onReturnPressed: swatch.choose()
 
             function choose() {
-                PainelTheme.accentName = swatch.modelData
                 root.preferences.accent = swatch.modelData
             }
 

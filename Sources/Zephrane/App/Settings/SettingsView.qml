@@ -9,6 +9,8 @@ Window {
     id: root
     objectName: "settings"
 
+    // The program's one set of preferences: what changes here shows in every channel at once.
+    required property Preferences preferences
     // Asks the program to show the main window, where the welcome runs again.
     signal welcomeRequested
 
@@ -19,9 +21,7 @@ Window {
     minimumHeight: 360
     color: PainelTheme.bg
 
-    onVisibleChanged: if (visible) prefs.refreshLaunchAtLogin()
-
-    Preferences { id: prefs }
+    onVisibleChanged: if (visible) root.preferences.refreshLaunchAtLogin()
 
     Flickable {
         id: flick
@@ -45,22 +45,22 @@ Window {
                 SettingsSwitchRow {
                     Layout.fillWidth: true
                     title: qsTrId("settings.toggle.menuBar")
-                    checked: prefs.showMenuBarAgent
-                    onToggled: on => prefs.showMenuBarAgent = on
+                    checked: root.preferences.showMenuBarAgent
+                    onToggled: on => root.preferences.showMenuBarAgent = on
                 }
                 SettingsRule {}
                 SettingsSwitchRow {
                     Layout.fillWidth: true
                     title: qsTrId("settings.toggle.launchAtLogin")
-                    checked: prefs.launchAtLogin
-                    onToggled: on => prefs.launchAtLogin = on
+                    checked: root.preferences.launchAtLogin
+                    onToggled: on => root.preferences.launchAtLogin = on
                 }
                 SettingsRule {}
                 SettingsSwitchRow {
                     Layout.fillWidth: true
                     title: qsTrId("settings.toggle.outdatedApps")
-                    checked: prefs.notifyOutdatedApps
-                    onToggled: on => prefs.notifyOutdatedApps = on
+                    checked: root.preferences.notifyOutdatedApps
+                    onToggled: on => root.preferences.notifyOutdatedApps = on
                 }
                 SettingsRule {}
                 LanguageSettingsRow {
@@ -102,8 +102,8 @@ Window {
                         { raw: "trash", title: qsTrId("settings.cleaning.trash") },
                         { raw: "delete", title: qsTrId("settings.cleaning.delete") }
                     ]
-                    current: prefs.cleanDestination
-                    onChosen: raw => prefs.cleanDestination = raw
+                    current: root.preferences.cleanDestination
+                    onChosen: raw => root.preferences.cleanDestination = raw
                 }
                 SettingsRule {}
                 RowLayout {
@@ -119,7 +119,7 @@ Window {
                         elide: Text.ElideRight
                     }
                     AccentPicker {
-                        preferences: prefs
+                        preferences: root.preferences
                     }
                 }
             }
@@ -139,7 +139,7 @@ Window {
 
                 AboutSettingsRow {
                     Layout.fillWidth: true
-                    preferences: prefs
+                    preferences: root.preferences
                     onWelcomeRequested: root.welcomeRequested()
                 }
             }

@@ -1,6 +1,8 @@
 #include "Modules/Junk/JunkCategoryList.hpp"
 
 #include "Modules/Junk/SystemJunkModel.hpp"
+#include "Modules/Shared/CleanupItemList.hpp"
+#include "Modules/Shared/PhaseFormat.hpp"
 #include "Painel/ByteFormat.hpp"
 
 #include <QDir>
@@ -25,6 +27,7 @@ QHash<int, QByteArray> JunkCategoryList::roleNames() const {
             {TotalBytesRole, "totalBytes"},
             {SizeTextRole, "sizeText"},
             {ItemCountRole, "itemCount"},
+            {CountTextRole, "countText"},
             {IsOnRole, "isOn"},
             {IsMixedRole, "isMixed"},
             {FractionRole, "fraction"},
@@ -51,10 +54,12 @@ QVariant JunkCategoryList::data(const QModelIndex& index, int role) const {
         return ByteFormat::text(static_cast<double>(group.totalSize()));
     case ItemCountRole:
         return static_cast<int>(group.items.size());
+    case CountTextRole:
+        return PhaseFormat::count(static_cast<int>(group.items.size()));
     case IsOnRole:
-        return junk->selectionState(group).isOn;
+        return junk->selection()->stateOf(group.items).isOn;
     case IsMixedRole:
-        return junk->selectionState(group).isMixed;
+        return junk->selection()->stateOf(group.items).isMixed;
     case FractionRole:
         return largest > 0 ? static_cast<double>(group.totalSize()) / static_cast<double>(largest) : 0.0;
     case TagRole: {
@@ -64,7 +69,7 @@ QVariant JunkCategoryList::data(const QModelIndex& index, int role) const {
         return !group.rule.selectedByDefault || noted ? QString(QT_TRID_NOOP("junk.tag.review")) : QString();
     }
     case ItemsRole:
-        return items(group);
+        return QVariant::fromValue(itemLists[static_cast<std::size_t>(index.row())]);
     default:
         return {};
     }
@@ -78,33 +83,30 @@ QString JunkCategoryList::subtitle(const CleanupItem& item, const CleanerCore::U
     return path.startsWith(homePath + '/') ? "~" + path.mid(homePath.size()) : path;
 }
 
-QVariantList JunkCategoryList::items(const JunkGroup& group) const {
-    QVariantList list;
-    for (const CleanupItem& item : group.items)
-        list.append(QVariantMap{{"path", QString::fromStdString(item.url.path())},
-                                {"name", QString::fromStdString(item.name())},
-                                {"sizeText", ByteFormat::text(static_cast<double>(item.size))},
-                                {"subtitle", subtitle(item, junk->home())},
-                                {"hasNote", item.note.has_value()},
-                                {"selected", junk->selection().contains(item.url)}});
-    return list;
-}
-
 void JunkCategoryList::rebuild() {
     beginResetModel();
     rows.clear();
+    for (CleanupItemList* list : itemLists)
+        list->deleteLater();
+    itemLists.clear();
     largest = 0;
     for (const JunkGroup& group : junk->groups()) {
         largest = std::max(largest, group.totalSize());
-        if (!group.items.empty())
-            rows.push_back(group);
+        if (group.items.empty())
+            continue;
+        rows.push_back(group);
+        itemLists.push_back(new CleanupItemList(
+            group.items, *junk->selection(),
+            [home = junk->home()](const CleanupItem& item) { return subtitle(item, home); }, this));
     }
     endResetModel();
     emit countChanged();
 }
 
 void JunkCategoryList::selectionChanged() {
-    if (!rows.empty())
-        emit dataChanged(index(0), index(static_cast<int>(rows.size()) - 1),
-                         {IsOnRole, IsMixedRole, ItemsRole});
+    if (rows.empty())
+        return;
+    emit dataChanged(index(0), index(static_cast<int>(rows.size()) - 1), {IsOnRole, IsMixedRole});
+    for (CleanupItemList* list : itemLists)
+        list->refreshSelection();
 }

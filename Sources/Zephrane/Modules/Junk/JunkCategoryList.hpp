@@ -7,10 +7,12 @@
 
 #include <vector>
 
+class CleanupItemList;
 class SystemJunkModel;
 
 // The rows of the junk results: one per group that has items, in rule order, with what a row
-// draws already worked out (its check state, the share of its meter, its tag, its items).
+// draws already worked out (its check state, the share of its meter, its tag, its items as a list of
+// their own, whose lamps change in place).
 class JunkCategoryList : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -26,6 +28,7 @@ public:
         TotalBytesRole,
         SizeTextRole,
         ItemCountRole,
+        CountTextRole,
         IsOnRole,
         IsMixedRole,
         FractionRole,
@@ -48,9 +51,9 @@ signals:
 private:
     void rebuild();
     void selectionChanged();
-    QVariantList items(const CleanerCore::JunkGroup& group) const;
 
     SystemJunkModel* junk;
     std::vector<CleanerCore::JunkGroup> rows;
+    std::vector<CleanupItemList*> itemLists; // one per row, same order
     std::int64_t largest = 0;
 };

@@ -12,12 +12,12 @@ FocusScope {
     required property string title
     required property string summary
     required property string sizeText
-    required property int itemCount
+    required property string countText
     required property bool isOn
     required property bool isMixed
     required property real fraction
     required property string tag
-    required property var items
+    required property CleanupItemList items
     property bool isExpanded: false
     readonly property real radius: 8
 
@@ -29,7 +29,7 @@ FocusScope {
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: root.title
-    Accessible.description: [qsTrId("junk.category.items").arg(root.junk.countText(root.itemCount)),
+    Accessible.description: [qsTrId("junk.category.items").arg(root.countText),
                              root.isMixed ? qsTrId("junk.category.mixed") : "", root.sizeText]
                             .filter(part => part.length > 0).join(", ")
     Accessible.checkable: true
@@ -158,7 +158,7 @@ FocusScope {
                     cells: 24
                     tint: root.isOn || root.isMixed ? LEDMeter.Accent : LEDMeter.Muted
                     label: root.title
-                    value: root.sizeText
+                    valueText: root.sizeText
                 }
             }
         }
@@ -170,10 +170,15 @@ FocusScope {
             anchors { left: parent.left; right: parent.right; top: head.bottom; leftMargin: 36; rightMargin: 16 }
 
             Repeater {
-                model: root.isExpanded ? root.items : []
+                model: root.isExpanded ? root.items : null
                 delegate: Item {
                     id: itemRow
-                    required property var modelData
+                    required property string path
+                    required property string name
+                    required property string sizeText
+                    required property string subtitle
+                    required property bool hasNote
+                    required property bool selected
                     width: itemList.width
                     height: 42
 
@@ -186,14 +191,14 @@ FocusScope {
                         id: itemLamp
                         objectName: "itemCheck"
                         anchors { left: parent.left; verticalCenter: parent.verticalCenter }
-                        isOn: itemRow.modelData.selected
-                        label: itemRow.modelData.name
-                        onToggled: root.junk.setSelected(itemRow.modelData.path, !itemRow.modelData.selected)
+                        isOn: itemRow.selected
+                        label: itemRow.name
+                        onToggled: root.junk.selection.setSelected(itemRow.path, !itemRow.selected)
                         PainelFocusRing {}
                         MouseArea {
                             anchors.fill: parent
                             anchors.margins: -6
-                            onClicked: root.junk.setSelected(itemRow.modelData.path, !itemRow.modelData.selected)
+                            onClicked: root.junk.selection.setSelected(itemRow.path, !itemRow.selected)
                         }
                     }
                     Column {
@@ -202,7 +207,7 @@ FocusScope {
                         spacing: 2
                         Text {
                             width: parent.width
-                            text: itemRow.modelData.name
+                            text: itemRow.name
                             color: PainelTheme.text
                             font.family: PainelTheme.sansFamily
                             font.pixelSize: 13
@@ -210,8 +215,8 @@ FocusScope {
                         }
                         Text {
                             width: parent.width
-                            text: itemRow.modelData.subtitle
-                            color: itemRow.modelData.hasNote ? PainelTheme.warn : PainelTheme.faint
+                            text: itemRow.subtitle
+                            color: itemRow.hasNote ? PainelTheme.warn : PainelTheme.faint
                             font.family: PainelTheme.monoFamily
                             font.pixelSize: 11
                             elide: Text.ElideMiddle
@@ -220,7 +225,7 @@ FocusScope {
                     Text {
                         id: itemSize
                         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-                        text: itemRow.modelData.sizeText
+                        text: itemRow.sizeText
                         color: PainelTheme.muted
                         font.family: PainelTheme.monoFamily
                         font.pixelSize: 12

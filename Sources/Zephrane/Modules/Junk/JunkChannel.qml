@@ -8,6 +8,7 @@ Item {
     id: root
 
     required property AppModel appModel
+    required property channelInfo info
     readonly property SystemJunkModel junk: appModel.junk
 
     Component.onCompleted: junk.scanOnFirstVisit()
@@ -15,7 +16,7 @@ Item {
     ModulePhaseView {
         anchors.fill: parent
         model: root.junk
-        channelTitle: qsTrId("channel.junk.title")
+        channelTitle: root.info.title
         idleMessage: qsTrId("junk.idle.message")
         emptyMessage: qsTrId("junk.empty.message")
         confirmNote: qsTrId("junk.confirm.note")

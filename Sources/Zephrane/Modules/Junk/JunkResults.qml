@@ -152,7 +152,7 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTrId("junk.clean")
                 kind: PainelButtonKind.Accent
-                enabled: root.model.selectedCount > 0
+                enabled: root.model.selection.count > 0
                 onClicked: root.model.confirming = true
             }
         }

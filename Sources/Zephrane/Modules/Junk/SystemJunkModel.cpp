@@ -14,10 +14,11 @@ using CleanerCore::JunkGroup;
 using CleanerCore::JunkRule;
 using CleanerCore::URL;
 
-SystemJunkModel::SystemJunkModel(QObject* parent) : SystemJunkModel(JunkRule::defaults(), parent) {}
+SystemJunkModel::SystemJunkModel(Preferences& preferences, QObject* parent)
+    : SystemJunkModel(preferences, JunkRule::defaults(), parent) {}
 
-SystemJunkModel::SystemJunkModel(std::vector<JunkRule> rules, QObject* parent)
-    : ModulePhaseModel(parent), ruleTable(std::move(rules)),
+SystemJunkModel::SystemJunkModel(Preferences& preferences, std::vector<JunkRule> rules, QObject* parent)
+    : ModulePhaseModel(preferences, parent), ruleTable(std::move(rules)),
       homeFolder(URL::file(QDir::homePath().toStdString())),
       runningBundleIDs([] { return CleanerCore::Platform::runningBundleIdentifiers(); }),
       categoryRows(new JunkCategoryList(this)) {}
@@ -27,28 +28,29 @@ void SystemJunkModel::setHome(URL newHome) {
     setRemovalHome(std::move(newHome));
 }
 
-std::vector<ScanUnit> SystemJunkModel::scanUnits() {
+ScanPlan SystemJunkModel::scanPlan() {
     // The same applications count as running for every rule of one scan.
     const auto running = std::make_shared<const std::set<std::string>>(runningBundleIDs());
-    std::vector<ScanUnit> units;
-    for (const JunkRule& rule : ruleTable) {
+    // One group per rule, each written by its own unit.
+    auto groups = std::make_shared<std::vector<JunkGroup>>();
+    for (const JunkRule& rule : ruleTable)
+        groups->push_back(JunkGroup{rule, {}});
+    ScanPlan plan;
+    for (std::size_t index = 0; index < ruleTable.size(); ++index) {
+        const JunkRule& rule = ruleTable[index];
         const QString path =
             rule.sources.empty() ? QString() : "~/" + QString::fromStdString(rule.sources.front().path);
-        units.push_back({QString::fromStdString(rule.id), QString::fromStdString(rule.title), path,
-                         [scanner = CleanerCore::JunkScanner{homeFolder, {rule}},
-                          running](std::stop_token stop, ScanFeed&) {
-                             JunkGroup group = scanner.scan(*running, stop).front();
-                             return ScanUnitResult{group.totalSize(), static_cast<int>(group.items.size()),
-                                                   std::nullopt, std::move(group)};
-                         }});
+        plan.units.push_back({QString::fromStdString(rule.id), QString::fromStdString(rule.title), path,
+                              [scanner = CleanerCore::JunkScanner{homeFolder, {rule}}, running, groups,
+                               index](std::stop_token stop, ScanFeed&) {
+                                  JunkGroup& group = (*groups)[index];
+                                  group = scanner.scan(*running, stop).front();
+                                  return ScanUnitResult{group.totalSize(), static_cast<int>(group.items.size()),
+                                                        std::nullopt};
+                              }});
     }
-    return units;
-}
-
-void SystemJunkModel::adoptResults(std::vector<std::any> payloads) {
-    found.clear();
-    for (std::any& payload : payloads)
-        found.push_back(std::any_cast<JunkGroup>(std::move(payload)));
+    plan.adopt = [this, groups] { found = std::move(*groups); };
+    return plan;
 }
 
 std::vector<CleanupCategory> SystemJunkModel::categories() const {
@@ -64,27 +66,9 @@ void SystemJunkModel::dropRemoved(const std::unordered_set<URL>& removed) {
         each = each.removing(removed);
 }
 
-SystemJunkModel::SelectionState SystemJunkModel::selectionState(const JunkGroup& of) const {
-    const auto on =
-        std::ranges::count_if(of.items, [this](const auto& item) { return selection().contains(item.url); });
-    const auto all = static_cast<std::ptrdiff_t>(of.items.size());
-    return {on > 0 && on == all, on > 0 && on < all};
-}
-
-void SystemJunkModel::setSelected(bool on, const JunkGroup& of) {
-    std::unordered_set<URL> urls = selection();
-    for (const auto& item : of.items) {
-        if (on)
-            urls.insert(item.url);
-        else
-            urls.erase(item.url);
-    }
-    setSelection(std::move(urls));
-}
-
 void SystemJunkModel::toggleGroup(const QString& ruleId) {
     if (const JunkGroup* target = group(ruleId))
-        setSelected(!selectionState(*target).isOn, *target);
+        selection()->setSelected(target->items, !selection()->stateOf(target->items).isOn);
 }
 
 const JunkGroup* SystemJunkModel::group(const QString& ruleId) const {
@@ -106,5 +90,5 @@ QString SystemJunkModel::selectedDetail() const {
     const QString groupsText =
         (groupCount == 1 ? qtTrId("junk.category.count.one") : qtTrId("junk.category.count.other"))
             .arg(PhaseFormat::locale().toString(groupCount));
-    return qtTrId("junk.selected.detail").arg(countText(chosen.count()), groupsText);
+    return qtTrId("junk.selected.detail").arg(PhaseFormat::count(chosen.count()), groupsText);
 }

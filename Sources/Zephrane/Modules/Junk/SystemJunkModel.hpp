@@ -27,22 +27,13 @@ class SystemJunkModel : public ModulePhaseModel {
 public:
     using RunningBundleIDs = std::function<std::set<std::string>()>;
 
-    explicit SystemJunkModel(QObject* parent = nullptr);
-    SystemJunkModel(std::vector<CleanerCore::JunkRule> rules, QObject* parent = nullptr);
+    explicit SystemJunkModel(Preferences& preferences, QObject* parent = nullptr);
+    SystemJunkModel(Preferences& preferences, std::vector<CleanerCore::JunkRule> rules, QObject* parent = nullptr);
 
     const std::vector<CleanerCore::JunkRule>& rules() const { return ruleTable; }
     // One group per rule after a scan, in rule order, those without items too.
     const std::vector<CleanerCore::JunkGroup>& groups() const { return found; }
 
-    struct SelectionState {
-        bool isOn = false;
-        bool isMixed = false;
-        bool operator==(const SelectionState&) const = default;
-    };
-    SelectionState selectionState(const CleanerCore::JunkGroup& group) const;
-    // Adds every URL of the group to the selection, or takes them all out.
-    void setSelected(bool on, const CleanerCore::JunkGroup& group);
-    using ModulePhaseModel::setSelected;
     // A row's check: the whole group on when it is off or mixed, off when it is on.
     Q_INVOKABLE void toggleGroup(const QString& ruleId);
 
@@ -59,8 +50,7 @@ public:
     QString selectedDetail() const;
 
 protected:
-    std::vector<ScanUnit> scanUnits() override;
-    void adoptResults(std::vector<std::any> payloads) override;
+    ScanPlan scanPlan() override;
     std::vector<CleanupCategory> categories() const override;
     void dropRemoved(const std::unordered_set<CleanerCore::URL>& removed) override;
 

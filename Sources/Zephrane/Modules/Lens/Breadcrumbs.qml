@@ -15,17 +15,17 @@ Flow {
     PainelButton {
         objectName: "upKey"
         text: qsTrId("lens.up")
-        enabled: root.lens.canGoUp
-        onClicked: root.lens.goUp()
+        enabled: root.lens.navigation.canGoUp
+        onClicked: root.lens.navigation.goUp()
     }
 
     Repeater {
-        model: root.lens.pathNames
+        model: root.lens.navigation.pathNames
         delegate: Row {
             id: crumb
             required property string modelData
             required property int index
-            readonly property bool current: index === root.lens.pathNames.length - 1
+            readonly property bool current: index === root.lens.navigation.pathNames.length - 1
             spacing: 4
             height: 38
 
@@ -48,9 +48,9 @@ Flow {
                 activeFocusOnTab: !crumb.current
                 Accessible.role: crumb.current ? Accessible.StaticText : Accessible.Button
                 Accessible.name: crumb.current ? qsTrId("lens.path.current").arg(crumb.modelData) : crumb.modelData
-                Accessible.onPressAction: root.lens.goToLevel(crumb.index)
-                Keys.onReturnPressed: root.lens.goToLevel(crumb.index)
-                Keys.onSpacePressed: root.lens.goToLevel(crumb.index)
+                Accessible.onPressAction: root.lens.navigation.goToLevel(crumb.index)
+                Keys.onReturnPressed: root.lens.navigation.goToLevel(crumb.index)
+                Keys.onSpacePressed: root.lens.navigation.goToLevel(crumb.index)
 
                 MouseArea {
                     id: area
@@ -58,7 +58,7 @@ Flow {
                     enabled: !crumb.current
                     hoverEnabled: true
                     cursorShape: Qt.PointingHandCursor
-                    onClicked: root.lens.goToLevel(crumb.index)
+                    onClicked: root.lens.navigation.goToLevel(crumb.index)
                 }
                 PainelFocusRing {}
             }

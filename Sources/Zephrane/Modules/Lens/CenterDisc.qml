@@ -27,7 +27,7 @@ Rectangle {
             objectName: "centreTitle"
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: root.lens.centreTitle
+            text: root.lens.navigation.centreTitle
             elide: Text.ElideMiddle
             color: PainelTheme.text
             font.family: PainelTheme.sansFamily
@@ -38,15 +38,14 @@ Rectangle {
             objectName: "centreSize"
             anchors.horizontalCenter: parent.horizontalCenter
             size: Math.max(14, root.diameter * 0.2)
-            locale: root.lens.localeName()
-            bytes: root.lens.centreBytes
+            bytes: root.lens.navigation.centreBytes
             color: PainelTheme.accent
         }
         Text {
             objectName: "centreLine"
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: root.lens.centreLine
+            text: root.lens.navigation.centreLine
             elide: Text.ElideRight
             color: PainelTheme.muted
             font.family: PainelTheme.monoFamily

@@ -35,7 +35,7 @@ FocusScope {
         focus: true
         activeFocusOnTab: true
         model: root.lens.rows
-        currentIndex: root.lens.highlightedRowIndex
+        currentIndex: root.lens.navigation.highlightedRowIndex
         highlightFollowsCurrentItem: false
         boundsBehavior: Flickable.StopAtBounds
         Accessible.role: Accessible.List
@@ -53,10 +53,10 @@ FocusScope {
         }
 
         Connections {
-            target: root.lens
+            target: root.lens.navigation
             function onHighlightChanged() {
-                if (root.lens.highlightedRowIndex >= 0)
-                    list.positionViewAtIndex(root.lens.highlightedRowIndex, ListView.Contain)
+                if (root.lens.navigation.highlightedRowIndex >= 0)
+                    list.positionViewAtIndex(root.lens.navigation.highlightedRowIndex, ListView.Contain)
             }
         }
     }

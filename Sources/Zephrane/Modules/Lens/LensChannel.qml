@@ -8,13 +8,14 @@ Item {
     id: root
 
     required property AppModel appModel
+    required property channelInfo info
     readonly property SpaceLensModel lens: appModel.spaceLens
 
     ModulePhaseView {
         objectName: "lensPhaseView"
         anchors.fill: parent
         model: root.lens
-        channelTitle: root.appModel.channels[2].title
+        channelTitle: root.info.title
         idleMessage: qsTrId("lens.idle.message")
         emptyMessage: qsTrId("lens.empty.message")
         confirmNote: qsTrId("lens.confirm.note")

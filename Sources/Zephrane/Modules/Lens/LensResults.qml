@@ -92,7 +92,6 @@ Item {
                 LEDNumber {
                     objectName: "markedSize"
                     size: 24
-                    locale: root.lens.localeName()
                     bytes: root.lens.markedBytes
                     color: root.lens.markedCount > 0 ? PainelTheme.accent : PainelTheme.muted
                     label: qsTrId("lens.size")

@@ -16,29 +16,35 @@ Rectangle {
     required property bool isHighlighted
     required property bool isOn
     required property bool isMixed
+    required property bool isCovered
     required property bool canMark
     required property bool canOpen
 
-    readonly property string markState: isOn ? qsTrId("lens.row.marked") : isMixed ? qsTrId("lens.row.mixed") : ""
+    readonly property string markState: isOn ? qsTrId("lens.row.marked")
+                                      : isCovered ? qsTrId("lens.row.inside")
+                                      : isMixed ? qsTrId("lens.row.mixed") : ""
+    // A row inside a marked folder goes with it; its own mark has nothing to change.
+    readonly property bool markable: canMark && !isCovered
 
     implicitHeight: 40
     radius: 4
-    color: isHighlighted ? PainelTheme.raised : (hover.hovered ? Qt.rgba(1, 1, 1, 0.03) : "transparent")
+    color: isHighlighted ? PainelTheme.raised : (hover.hovered ? PainelTheme.divider : "transparent")
     border.width: isHighlighted ? 1 : 0
     border.color: PainelTheme.accent
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: [name, share, lens.bytesParts(bytes).text, markState].filter(s => s.length > 0).join(", ")
+    Accessible.name: [name, share, ByteFormat.text(bytes), markState].filter(s => s.length > 0).join(", ")
     Accessible.description: qsTrId("lens.row.hint")
     Accessible.selected: isHighlighted
 
     HoverHandler {
         id: hover
-        onHoveredChanged: if (hovered) root.lens.setHoveredPath(root.path)
+        onHoveredChanged: hovered ? root.lens.navigation.setHoveredPath(root.path)
+                                  : root.lens.navigation.leave(root.path)
     }
     TapHandler {
-        onTapped: root.lens.setCursorPath(root.path)
-        onDoubleTapped: root.lens.openPath(root.path)
+        onTapped: root.lens.navigation.setCursorPath(root.path)
+        onDoubleTapped: root.lens.navigation.openPath(root.path)
     }
 
     // The mark: lit when on, half lit when something inside is marked.
@@ -53,14 +59,16 @@ Rectangle {
         radius: 3
         visible: root.canMark
         color: root.isOn ? PainelTheme.accent : PainelTheme.deep
+        opacity: root.isCovered ? 0.5 : 1
         border.width: 1
-        border.color: root.isOn || root.isMixed ? PainelTheme.accent : PainelTheme.border
+        border.color: root.isOn || root.isMixed || root.isCovered ? PainelTheme.accent : PainelTheme.border
         activeFocusOnTab: false
         Accessible.role: Accessible.CheckBox
-        Accessible.name: root.isOn ? qsTrId("lens.row.unmark") : qsTrId("lens.row.mark")
-        Accessible.checked: root.isOn
-        Accessible.onToggleAction: root.lens.toggleMarkPath(root.path)
-        Accessible.onPressAction: root.lens.toggleMarkPath(root.path)
+        Accessible.name: root.isCovered ? qsTrId("lens.row.inside")
+                       : root.isOn ? qsTrId("lens.row.unmark") : qsTrId("lens.row.mark")
+        Accessible.checked: root.isOn || root.isCovered
+        Accessible.onToggleAction: if (root.markable) root.lens.toggleMarkPath(root.path)
+        Accessible.onPressAction: if (root.markable) root.lens.toggleMarkPath(root.path)
 
         Rectangle {
             anchors.centerIn: parent
@@ -71,13 +79,14 @@ Rectangle {
         }
         Text {
             anchors.centerIn: parent
-            visible: root.isOn
+            visible: root.isOn || root.isCovered
             text: "✓"
             color: PainelTheme.onAccent
             font.pixelSize: 12
             font.bold: true
         }
         TapHandler {
+            enabled: root.markable
             onTapped: root.lens.toggleMarkPath(root.path)
         }
     }
@@ -110,7 +119,7 @@ Rectangle {
             width: Math.max(2, parent.width * root.fraction)
             height: parent.height
             radius: 1.5
-            color: root.isOn || root.isHighlighted ? PainelTheme.accent : PainelTheme.muted
+            color: root.isOn || root.isCovered || root.isHighlighted ? PainelTheme.accent : PainelTheme.muted
         }
     }
 
@@ -133,7 +142,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         width: 72
         horizontalAlignment: Text.AlignRight
-        text: root.lens.bytesParts(root.bytes).text
+        text: ByteFormat.text(root.bytes)
         color: PainelTheme.text
         font.family: PainelTheme.monoFamily
         font.pixelSize: 12
@@ -157,7 +166,7 @@ Rectangle {
             anchors.margins: -6
             enabled: root.canOpen
             hoverEnabled: true
-            onClicked: root.lens.openPath(root.path)
+            onClicked: root.lens.navigation.openPath(root.path)
         }
     }
 }

@@ -1,5 +1,7 @@
 #include "Modules/Lens/LensRowsModel.hpp"
 
+#include "Modules/Lens/LensMarks.hpp"
+#include "Modules/Lens/LensText.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 #include "Modules/Shared/PhaseFormat.hpp"
 
@@ -14,7 +16,9 @@ QVariant LensRowsModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
     const auto& node = nodes[static_cast<std::size_t>(index.row())];
-    const auto focus = lens.focusNode();
+    const LensNavigation& nav = *lens.navigation();
+    const auto& marks = lens.selection()->urls();
+    const auto focus = nav.focusNode();
     const std::int64_t whole = focus ? focus->size() : 0;
     switch (role) {
     case PathRole:
@@ -22,21 +26,23 @@ QVariant LensRowsModel::data(const QModelIndex& index, int role) const {
     case NameRole:
         return node->isAggregate()
                    ? QString::fromUtf8(node->name().data(), static_cast<qsizetype>(node->name().size()))
-                   : SpaceLensModel::displayName(node->url());
+                   : LensText::displayName(node->url());
     case BytesRole:
         return QVariant::fromValue<qint64>(node->size());
     case ShareRole:
-        return SpaceLensModel::share(node->size(), whole, PhaseFormat::locale());
+        return LensText::share(node->size(), whole, PhaseFormat::locale());
     case FractionRole:
         return whole > 0 ? static_cast<double>(node->size()) / static_cast<double>(whole) : 0.0;
     case IsHighlightedRole: {
-        const auto row = lens.highlightedRow();
+        const auto row = nav.highlightedRow();
         return row && *row == node->url();
     }
     case IsOnRole:
-        return lens.isMarked(node->url());
+        return marks.contains(node->url());
     case IsMixedRole:
-        return !lens.isMarked(node->url()) && lens.hasMarkedInside(node->url());
+        return !LensMarks::covers(marks, node->url()) && LensMarks::hasInside(marks, node->url());
+    case IsCoveredRole:
+        return !marks.contains(node->url()) && LensMarks::covers(marks, node->url());
     case CanMarkRole:
         return !node->isAggregate();
     case CanOpenRole:
@@ -49,13 +55,14 @@ QVariant LensRowsModel::data(const QModelIndex& index, int role) const {
 QHash<int, QByteArray> LensRowsModel::roleNames() const {
     return {{PathRole, "path"},      {NameRole, "name"},         {BytesRole, "bytes"},
             {ShareRole, "share"},    {FractionRole, "fraction"}, {IsHighlightedRole, "isHighlighted"},
-            {IsOnRole, "isOn"},      {IsMixedRole, "isMixed"},   {CanMarkRole, "canMark"},
+            {IsOnRole, "isOn"},      {IsMixedRole, "isMixed"},   {IsCoveredRole, "isCovered"},
+            {CanMarkRole, "canMark"},
             {CanOpenRole, "canOpen"}};
 }
 
 void LensRowsModel::reload() {
     beginResetModel();
-    nodes = lens.rowNodes();
+    nodes = lens.navigation()->rowNodes();
     endResetModel();
 }
 
@@ -63,5 +70,5 @@ void LensRowsModel::refreshStates() {
     if (nodes.empty())
         return;
     emit dataChanged(index(0), index(static_cast<int>(nodes.size()) - 1),
-                     {IsHighlightedRole, IsOnRole, IsMixedRole});
+                     {IsHighlightedRole, IsOnRole, IsMixedRole, IsCoveredRole});
 }

@@ -10,7 +10,8 @@
 class SpaceLensModel;
 
 // The children of the folder in focus, largest first, as the list beside the map shows them.
-// Marks and the highlight change rows in place; a new focus resets the list.
+// Marks and the highlight change rows in place; a new focus resets the list. A row is on when it
+// is marked itself, covered when a folder above it is, mixed when something inside it is.
 class LensRowsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -26,6 +27,7 @@ public:
         IsHighlightedRole,
         IsOnRole,
         IsMixedRole,
+        IsCoveredRole,
         CanMarkRole,
         CanOpenRole,
     };

@@ -1,5 +1,6 @@
 #include "Modules/Lens/SunburstCanvas.hpp"
 
+#include "Modules/Lens/LensMarks.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 
 #include <QGuiApplication>
@@ -45,13 +46,15 @@ SunburstCanvas::SunburstCanvas(QQuickItem* parent) : QQuickPaintedItem(parent) {
 void SunburstCanvas::setModel(SpaceLensModel* model) {
     if (model == lens)
         return;
-    if (lens)
+    if (lens) {
         disconnect(lens, nullptr, this, nullptr);
+        disconnect(lens->navigation(), nullptr, this, nullptr);
+    }
     lens = model;
-    shownFocus = lens ? lens->focusNode().get() : nullptr; // no reveal on first appearance
+    shownFocus = lens ? lens->navigation()->focusNode().get() : nullptr; // no reveal on first appearance
     if (lens) {
         connect(lens, &SpaceLensModel::treeChanged, this, &SunburstCanvas::focusMaybeChanged);
-        connect(lens, &SpaceLensModel::highlightChanged, this, [this] { update(); });
+        connect(lens->navigation(), &LensNavigation::highlightChanged, this, [this] { update(); });
         connect(lens, &ModulePhaseModel::selectionChanged, this, [this] { update(); });
     }
     emit modelChanged();
@@ -68,7 +71,7 @@ void SunburstCanvas::setProgress(double value) {
 }
 
 void SunburstCanvas::focusMaybeChanged() {
-    const void* focus = lens ? lens->focusNode().get() : nullptr;
+    const void* focus = lens ? lens->navigation()->focusNode().get() : nullptr;
     const bool changed = focus != shownFocus;
     shownFocus = focus;
     if (changed && !lessMotion && focus) {
@@ -88,11 +91,11 @@ void SunburstCanvas::geometryChange(const QRectF& newGeometry, const QRectF& old
 void SunburstCanvas::paint(QPainter* painter) {
     if (!lens)
         return;
-    const auto highlighted = lens->highlighted();
+    const auto highlighted = lens->navigation()->highlighted();
     const std::string highlightedPath =
         highlighted ? CleanerCore::standardizedPath(highlighted->path()) : std::string();
-    const std::vector<std::string> marked = lens->markedPaths();
-    draw(*painter, geometry(), lens->segments(),
+    const std::vector<std::string> marked = LensMarks::paths(lens->selection()->urls());
+    draw(*painter, geometry(), lens->navigation()->segments(),
          highlighted ? std::optional<std::string_view>(highlightedPath) : std::nullopt, marked, revealed,
          Colours{accentColour, faintColour, textColour}, contrast);
 }
@@ -138,7 +141,7 @@ int SunburstCanvas::draw(QPainter& painter, const SunburstGeometry& geometry,
 SunburstHit SunburstCanvas::hitAt(QPointF point) const {
     if (!lens)
         return {};
-    return geometry().hit(point.x(), point.y(), lens->segments());
+    return geometry().hit(point.x(), point.y(), lens->navigation()->segments());
 }
 
 void SunburstCanvas::hoverMoveEvent(QHoverEvent* event) {
@@ -148,13 +151,13 @@ void SunburstCanvas::hoverMoveEvent(QHoverEvent* event) {
     std::optional<CleanerCore::URL> url;
     if (hit.kind == SunburstHit::Kind::segment)
         url = hit.segment->node->url();
-    if (url != lens->hovered())
-        lens->setHovered(std::move(url));
+    if (url != lens->navigation()->hovered())
+        lens->navigation()->setHovered(std::move(url));
 }
 
 void SunburstCanvas::hoverLeaveEvent(QHoverEvent*) {
-    if (lens && lens->hovered())
-        lens->setHovered(std::nullopt);
+    if (lens && lens->navigation()->hovered())
+        lens->navigation()->setHovered(std::nullopt);
 }
 
 void SunburstCanvas::mousePressEvent(QMouseEvent* event) {
@@ -176,7 +179,7 @@ void SunburstCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
         return;
     const SunburstHit hit = hitAt(event->position());
     if (hit.kind == SunburstHit::Kind::segment)
-        lens->open(hit.segment->node->url());
+        lens->navigation()->open(hit.segment->node->url());
 }
 
 void SunburstCanvas::singleTap() {
@@ -184,7 +187,7 @@ void SunburstCanvas::singleTap() {
         return;
     const SunburstHit hit = hitAt(tapPoint);
     if (hit.kind == SunburstHit::Kind::centre)
-        lens->goUp();
+        lens->navigation()->goUp();
     else if (hit.kind == SunburstHit::Kind::segment)
-        lens->setCursor(hit.segment->node->url());
+        lens->navigation()->setCursor(hit.segment->node->url());
 }

@@ -1,7 +1,5 @@
 #include "Modules/Shared/CleanDestination.hpp"
 
-#include <QSettings>
-
 namespace CleanDestinations {
 
 QString rawValue(CleanDestination destination) {
@@ -25,15 +23,6 @@ CleanerCore::RemovalMode removalMode(CleanDestination destination) {
 CleanDestination from(CleanerCore::RemovalMode mode) {
     return mode == CleanerCore::RemovalMode::permanent ? CleanDestination::deleteForGood
                                                        : CleanDestination::trash;
-}
-
-CleanDestination stored() {
-    return fromRaw(QSettings().value(QLatin1String(settingsKey)).toString())
-        .value_or(CleanDestination::trash);
-}
-
-void store(CleanDestination destination) {
-    QSettings().setValue(QLatin1String(settingsKey), rawValue(destination));
 }
 
 } // namespace CleanDestinations

@@ -8,7 +8,7 @@ Item {
 
     required property ModulePhaseModel model
     required property string channelTitle
-    readonly property var summary: model.summary
+    readonly property cleanupSummary summary: model.summary
 
     Column {
         anchors.fill: parent
@@ -30,13 +30,13 @@ Item {
         MonoLabel { text: qsTrId("phase.cleaning.total"); tone: MonoLabel.Faint }
         LEDNumber {
             objectName: "cleaningBytes"
-            bytes: root.summary.size.bytes
+            bytes: root.summary.bytes
             size: 56
             color: PainelTheme.accent
             label: qsTrId("phase.cleaning.total")
         }
         Text {
-            text: root.model.countText(root.summary.count)
+            text: root.summary.countText
             color: PainelTheme.muted
             font.family: PainelTheme.monoFamily
             font.pixelSize: 14

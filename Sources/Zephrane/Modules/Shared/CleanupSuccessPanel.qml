@@ -9,9 +9,8 @@ Item {
     id: root
 
     required property ModulePhaseModel model
-    readonly property var outcome: model.outcome
+    readonly property cleanupOutcome outcome: model.outcome
     readonly property bool toTrash: outcome.destination === "trash"
-    readonly property var failures: outcome.failures || []
     property bool failuresOpen: false
 
     Flickable {
@@ -42,7 +41,7 @@ Item {
             MonoLabel { text: qsTrId("success.freed"); tone: MonoLabel.Faint }
             LEDNumber {
                 objectName: "freedBytes"
-                bytes: root.outcome.size.bytes
+                bytes: root.outcome.bytes
                 size: 56
                 color: PainelTheme.ok
                 label: qsTrId("success.freed")
@@ -76,7 +75,7 @@ Item {
                         model: root.outcome.lines
                         delegate: Item {
                             id: line
-                            required property var modelData
+                            required property cleanupLine modelData
                             width: report.width
                             height: lineTitle.implicitHeight
                             Accessible.role: Accessible.StaticText
@@ -93,7 +92,7 @@ Item {
                             Text {
                                 id: lineValue
                                 anchors.right: parent.right
-                                text: qsTrId("success.report.ok").arg(root.model.countText(line.modelData.count)).arg(line.modelData.size.text)
+                                text: qsTrId("success.report.ok").arg(line.modelData.countText).arg(line.modelData.sizeText)
                                 color: PainelTheme.ok
                                 font.family: PainelTheme.monoFamily
                                 font.pixelSize: 12
@@ -103,7 +102,7 @@ Item {
                     Rectangle { width: parent.width; height: 1; color: PainelTheme.divider }
                     Text {
                         objectName: "reportTime"
-                        text: qsTrId("success.report.time").arg(root.outcome.duration)
+                        text: qsTrId("success.report.time").arg(root.outcome.durationText)
                         color: PainelTheme.muted
                         font.family: PainelTheme.monoFamily
                         font.pixelSize: 12
@@ -115,7 +114,7 @@ Item {
             Rectangle {
                 objectName: "failures"
                 Layout.fillWidth: true
-                visible: root.failures.length > 0
+                visible: root.outcome.failureCount > 0
                 implicitHeight: failureColumn.implicitHeight + 24
                 radius: 6
                 color: PainelTheme.deep
@@ -133,7 +132,7 @@ Item {
                         Text {
                             anchors.verticalCenter: parent.verticalCenter
                             width: parent.width - toggle.width - 12
-                            text: qsTrId("success.failures").arg(root.model.countText(root.failures.length))
+                            text: qsTrId("success.failures").arg(root.outcome.failureCountText)
                             color: PainelTheme.warn
                             font.family: PainelTheme.sansFamily
                             font.pixelSize: 13
@@ -150,10 +149,10 @@ Item {
                         }
                     }
                     Repeater {
-                        model: root.failuresOpen ? root.failures : []
+                        model: root.failuresOpen ? root.outcome.failures : []
                         delegate: Column {
                             id: failure
-                            required property var modelData
+                            required property cleanupFailure modelData
                             width: failureColumn.width
                             spacing: 2
                             Accessible.role: Accessible.StaticText

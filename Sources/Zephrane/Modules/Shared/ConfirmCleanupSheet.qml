@@ -8,11 +8,11 @@ Rectangle {
 
     required property ModulePhaseModel model
     required property string confirmNote
-    readonly property var summary: model.summary
+    readonly property cleanupSummary summary: model.summary
     readonly property bool forGood: model.destination === "delete"
 
     // The scrim over the results.
-    color: Qt.rgba(0, 0, 0, 0.6)
+    color: Qt.rgba(PainelTheme.deep.r, PainelTheme.deep.g, PainelTheme.deep.b, 0.8)
     MouseArea { anchors.fill: parent }
 
     Keys.onEscapePressed: root.model.actions.cancelConfirm()
@@ -79,7 +79,7 @@ Rectangle {
                             model: root.summary.lines
                             delegate: Item {
                                 id: line
-                                required property var modelData
+                                required property cleanupLine modelData
                                 width: lines.width
                                 height: lineTitle.implicitHeight
                                 Accessible.role: Accessible.StaticText
@@ -96,7 +96,7 @@ Rectangle {
                                 Text {
                                     id: lineValue
                                     anchors.right: parent.right
-                                    text: qsTrId("confirm.line").arg(root.model.countText(line.modelData.count)).arg(line.modelData.size.text)
+                                    text: qsTrId("confirm.line").arg(line.modelData.countText).arg(line.modelData.sizeText)
                                     color: PainelTheme.muted
                                     font.family: PainelTheme.monoFamily
                                     font.pixelSize: 12
@@ -118,7 +118,7 @@ Rectangle {
                             Text {
                                 id: totalValue
                                 anchors.right: parent.right
-                                text: qsTrId("confirm.line").arg(root.model.countText(root.summary.count)).arg(root.summary.size.text)
+                                text: qsTrId("confirm.line").arg(root.summary.countText).arg(root.summary.sizeText)
                                 color: PainelTheme.text
                                 font.family: PainelTheme.monoFamily
                                 font.pixelSize: 13

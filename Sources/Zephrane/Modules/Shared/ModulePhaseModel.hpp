@@ -7,6 +7,7 @@
 #include "Modules/Shared/CleanDestination.hpp"
 #include "Modules/Shared/CleanupCategory.hpp"
 #include "Modules/Shared/CleanupOutcome.hpp"
+#include "Modules/Shared/CleanupSelection.hpp"
 #include "Modules/Shared/CleanupSummary.hpp"
 #include "Modules/Shared/ModulePhase.hpp"
 #include "Modules/Shared/ModulePhaseActions.hpp"
@@ -15,33 +16,30 @@
 #include "Modules/Shared/ScanUnit.hpp"
 
 #include <QFuture>
-#include <QFutureWatcher>
 #include <QObject>
-#include <QTimer>
-#include <QVariantList>
-#include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
-#include <any>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <unordered_set>
 #include <vector>
 
-// The life every scanning-and-removing channel shares, written once.
+class Preferences;
+class ScanRunner;
+
+// The life every scanning-and-removing channel shares: idle -> scanning -> ready -> cleaning ->
+// done -> ready, the confirmation sheet, and the report of the last removal. Selection and scan
+// scheduling are small types of their own (CleanupSelection, ScanRunner) that this composes.
 //
-// How a channel uses it: derive from ModulePhaseModel and implement four hooks.
-//   scanUnits()      the units of work of one scan (called on the interface thread when it starts);
-//                    each unit's work runs on the pool with a stop token and returns a ScanUnitResult
-//                    whose payload carries the channel's partial results.
-//   adoptResults()   a completed scan's payloads, in unit order: replace the channel's results.
-//   categories()     the current results as categories of CleanupItems (summary, outcome lines,
-//                    default selection, selected items all derive from it).
-//   dropRemoved()    take removed URLs out of the results after a clean.
-// Call notifyResultsChanged() if the channel changes its results any other way. The base keeps
-// phase, progress, selection, the confirmation flag, outcome and the last report, runs scans and
-// removals off the interface thread and changes state only on it; a channel's screen puts a
-// ModulePhaseView over the model and gives it the channel's own results view.
+// A channel derives from it and implements three hooks:
+//   scanPlan()      the units of one scan and how their results are taken in (see ScanPlan);
+//   categories()    the current results as categories of CleanupItems (summary, outcome lines,
+//                   default selection, selected items all derive from it);
+//   dropRemoved()   take removed URLs out of the results after a clean.
+// and may override how it removes: fixedDestination() (the trash always empties for good),
+// removedWith() (items that go with each item), removalJob() (a removal that is not Cleaner's).
+// Call notifyResultsChanged() if the channel changes its results any other way.
 class ModulePhaseModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -51,30 +49,32 @@ class ModulePhaseModel : public QObject {
     Q_PROPERTY(bool confirming READ confirming WRITE setConfirming NOTIFY confirmingChanged)
     Q_PROPERTY(bool hasScanned READ hasScanned NOTIFY hasScannedChanged)
     Q_PROPERTY(QString destination READ destinationRaw WRITE setDestinationRaw NOTIFY destinationChanged)
-    Q_PROPERTY(QVariantMap progress READ progressMap NOTIFY progressChanged)
-    Q_PROPERTY(QVariantMap summary READ summaryMap NOTIFY selectionChanged)
-    Q_PROPERTY(QVariantMap outcome READ outcomeMap NOTIFY outcomeChanged)
-    Q_PROPERTY(qint64 foundBytes READ foundBytes NOTIFY resultsChanged)
-    Q_PROPERTY(QString foundSpoken READ foundSpokenText NOTIFY resultsChanged)
-    Q_PROPERTY(int itemCount READ itemCount NOTIFY resultsChanged)
-    Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectionChanged)
     Q_PROPERTY(QString destinationTitle READ destinationTitle NOTIFY destinationChanged)
+    Q_PROPERTY(bool destinationFixed READ destinationFixed CONSTANT)
+    Q_PROPERTY(ScanProgress progress READ progress NOTIFY progressChanged)
+    Q_PROPERTY(CleanupSummary summary READ summary NOTIFY selectionChanged)
+    Q_PROPERTY(CleanupOutcome outcome READ outcomeValue NOTIFY outcomeChanged)
+    Q_PROPERTY(qint64 foundBytes READ foundBytes NOTIFY resultsChanged)
+    Q_PROPERTY(QString foundSpoken READ foundSpoken NOTIFY resultsChanged)
+    Q_PROPERTY(int itemCount READ itemCount NOTIFY resultsChanged)
+    Q_PROPERTY(CleanupSelection* selection READ selection CONSTANT)
     Q_PROPERTY(ModulePhaseActions* actions READ actions CONSTANT)
 
 public:
-    explicit ModulePhaseModel(QObject* parent = nullptr);
+    ModulePhaseModel(Preferences& preferences, QObject* parent = nullptr);
     ~ModulePhaseModel() override;
 
     ModulePhase phase() const { return current; }
     PainelPhase painelPhase() const { return shown; }
-    const ScanProgress& progress() const { return scanProgress; }
+    const ScanProgress& progress() const;
     const std::optional<CleanupOutcome>& outcome() const { return lastOutcome; }
     const std::optional<CleanerCore::RemovalReport>& lastReport() const { return report; }
     bool hasScanned() const { return scanned; }
-    bool isScanRunning() const { return bool(scanTask); }
+    bool isScanRunning() const;
     bool confirming() const { return confirmingFlag; }
     void setConfirming(bool on);
-    CleanDestination destination() const { return chosenDestination; }
+    // Where a confirmed removal goes: the channel's fixed way, else the stored choice.
+    CleanDestination destination() const;
     void setDestination(CleanDestination destination);
 
     // Starts a scan unless one runs or a removal runs; the future finishes when the scan ends
@@ -87,7 +87,7 @@ public:
     Q_INVOKABLE void stop();
     // Removes the selected items; refused (finished future) with nothing selected or outside ready.
     QFuture<void> clean(CleanerCore::RemovalMode mode);
-    // The confirmation sheet's key: closes the sheet and cleans to the chosen destination.
+    // The confirmation sheet's key: closes the sheet and removes to the destination.
     Q_INVOKABLE void confirm();
     // The success panel's key: back to what is left of the results.
     Q_INVOKABLE void done();
@@ -95,16 +95,12 @@ public:
     CleanupSummary summary() const;
     std::vector<CleanerCore::CleanupItem> allItems() const;
     std::vector<CleanerCore::CleanupItem> selectedItems() const;
-    const std::unordered_set<CleanerCore::URL>& selection() const { return selected; }
-    void setSelection(std::unordered_set<CleanerCore::URL> urls);
-    Q_INVOKABLE bool isSelected(const QString& path) const;
-    Q_INVOKABLE void setSelected(const QString& path, bool on);
-
+    CleanupSelection* selection() const { return selected; }
     int itemCount() const;
-    int selectedCount() const { return static_cast<int>(selected.size()); }
     virtual qint64 foundBytes() const;
-    // A channel whose found size reads better in its own words (for instance "3 apps") says so here.
-    virtual QString foundSpokenText() const { return {}; }
+    // The found size in words for the results announcement; a channel whose finding reads better
+    // in its own words ("3 apps") overrides it.
+    virtual QString foundSpoken() const;
 
     ModulePhaseActions* actions() const { return phaseActions; }
 
@@ -113,15 +109,11 @@ public:
 
     QString phaseRaw() const { return ModulePhases::rawValue(current); }
     QString painelPhaseRaw() const { return PainelPhases::rawValue(shown); }
-    QString destinationRaw() const { return CleanDestinations::rawValue(chosenDestination); }
+    QString destinationRaw() const { return CleanDestinations::rawValue(destination()); }
     void setDestinationRaw(const QString& raw);
     QString destinationTitle() const;
-    QVariantMap progressMap() const;
-    // Texts of the phase screens: the scan's running clock, and "3 items".
-    Q_INVOKABLE QString elapsedText() const;
-    Q_INVOKABLE QString countText(int count) const;
-    QVariantMap summaryMap() const;
-    QVariantMap outcomeMap() const;
+    bool destinationFixed() const { return fixedDestination().has_value(); }
+    CleanupOutcome outcomeValue() const { return lastOutcome.value_or(CleanupOutcome{}); }
 
 signals:
     void phaseChanged();
@@ -137,51 +129,50 @@ signals:
     void stepFinished(const QString& title);
 
 protected:
-    virtual std::vector<ScanUnit> scanUnits() = 0;
-    virtual void adoptResults(std::vector<std::any> payloads) = 0;
+    using RemovalJob = std::function<CleanerCore::RemovalReport()>;
+
+    virtual ScanPlan scanPlan() = 0;
     virtual std::vector<CleanupCategory> categories() const = 0;
     virtual void dropRemoved(const std::unordered_set<CleanerCore::URL>& removed) = 0;
+
+    // A channel whose removals always go one way, whatever the stored choice, says which.
+    virtual std::optional<CleanDestination> fixedDestination() const { return std::nullopt; }
+    // Items removed after `item`, and only when it went (an index entry that describes it, say).
+    virtual std::vector<CleanerCore::CleanupItem> removedWith(const CleanerCore::CleanupItem&) const {
+        return {};
+    }
+    // What a removal of `items` does, run on a worker thread. The default asks Cleaner, in `mode`,
+    // for the items and then for what removedWith() names for each item that went; their failures
+    // join the report. A channel whose things are not removed as files (an application uninstalled
+    // through its package manager) returns its own job; it must still leave files to Cleaner.
+    virtual RemovalJob removalJob(std::vector<CleanerCore::CleanupItem> items, CleanerCore::RemovalMode mode) const;
 
     void notifyResultsChanged();
     // Whether `ready` shows results rather than the empty screen. A channel whose results are more
     // than its removable items (a map with nothing marked yet, say) answers for itself.
     virtual bool hasResults() const { return itemCount() > 0; }
+    const CleanerCore::URL& removalFolder() const { return removalHome; }
 
 private:
-    struct ScanRun;
-    // Runs `handler` with the work's result on this model's thread, unless the model is gone by
-    // then. (A continuation bound to a destroyed context object aborts in Qt 6.4; a watcher owned by
-    // the model simply dies with it.)
-    template <class T, class Handler> void whenDone(QFuture<T> work, Handler handler);
-    void runUnit(const std::shared_ptr<ScanRun>& run, std::size_t index);
-    void finishScan(const std::shared_ptr<ScanRun>& run, bool cancelled);
+    void finishScan(bool stopped);
     void finishClean(const CleanerCore::RemovalReport& removal, const std::vector<CleanupCategory>& before,
                      std::chrono::steady_clock::time_point started);
-    void pollFeed();
     void setPhase(ModulePhase phase);
     void refreshPainelPhase();
 
+    Preferences& preferences;
     ModulePhase current = ModulePhase::idle;
     PainelPhase shown = PainelPhase::idle;
-    ScanProgress scanProgress;
     std::optional<CleanupOutcome> lastOutcome;
     std::optional<CleanerCore::RemovalReport> report;
-    std::unordered_set<CleanerCore::URL> selected;
     bool scanned = false;
     bool automaticScanMade = false;
     bool confirmingFlag = false;
-    CleanDestination chosenDestination;
     CleanerCore::URL removalHome;
-    std::shared_ptr<ScanRun> scanTask;
-    QTimer feedTimer;
+    // The scan in flight: how its results are taken in, the phase it started from, its end.
+    struct PendingScan;
+    std::unique_ptr<PendingScan> pending;
+    ScanRunner* runner;
+    CleanupSelection* selected;
     ModulePhaseActions* phaseActions;
 };
-
-template <class T, class Handler> void ModulePhaseModel::whenDone(QFuture<T> work, Handler handler) {
-    auto* watcher = new QFutureWatcher<T>(this);
-    connect(watcher, &QFutureWatcherBase::finished, this, [watcher, handler = std::move(handler)]() mutable {
-        watcher->deleteLater();
-        handler(watcher->result());
-    });
-    watcher->setFuture(std::move(work));
-}

@@ -48,9 +48,7 @@ void PhaseAnnouncements::phaseChanged() {
     if (!watched)
         return;
     const PainelPhase now = watched->painelPhase();
-    const QString found = watched->foundSpokenText().isEmpty()
-                              ? ByteFormat::spoken(static_cast<double>(watched->foundBytes()))
-                              : watched->foundSpokenText();
+    const QString found = watched->foundSpoken();
     const QString freed =
         ByteFormat::spoken(watched->outcome() ? static_cast<double>(watched->outcome()->bytes) : 0.0);
     if (auto text = announcement(last, now, found, freed))

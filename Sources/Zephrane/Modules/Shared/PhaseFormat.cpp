@@ -10,6 +10,11 @@ QLocale locale() {
     return QLocale(QString::fromStdString(CleanerCore::CoreL10n::currentLanguage()));
 }
 
+QString count(int items) {
+    return QStringLiteral("%1 %2").arg(locale().toString(items), items == 1 ? qtTrId("phase.scan.unit.one")
+                                                                           : qtTrId("phase.scan.unit.other"));
+}
+
 QString clock(std::chrono::seconds elapsed) {
     const auto total = std::max<long long>(0, elapsed.count());
     const long long hours = total / 3600, minutes = (total / 60) % 60, seconds = total % 60;

@@ -1,5 +1,7 @@
 #include "Modules/Shared/ScanStep.hpp"
 
+#include "Painel/ByteFormat.hpp"
+
 QString ScanStep::State::rawValue() const {
     switch (kind) {
     case Kind::waiting:
@@ -10,4 +12,16 @@ QString ScanStep::State::rawValue() const {
         return QStringLiteral("done");
     }
     return {};
+}
+
+QString ScanStep::valueText() const {
+    switch (state.kind) {
+    case State::Kind::waiting:
+        return qtTrId("phase.step.waiting");
+    case State::Kind::scanning:
+        return qtTrId("phase.step.scanning");
+    case State::Kind::done:
+        break;
+    }
+    return doneText.value_or(ByteFormat::text(static_cast<double>(state.bytes)));
 }

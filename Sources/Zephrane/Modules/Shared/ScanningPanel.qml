@@ -8,14 +8,14 @@ Item {
     id: root
 
     required property ModulePhaseModel model
-    readonly property var progress: model.progress
-    property string elapsed: model.elapsedText()
+    readonly property scanProgress progress: model.progress
+    property string elapsed: progress.elapsedText()
 
     Timer {
         interval: 1000
         repeat: true
         running: true
-        onTriggered: root.elapsed = root.model.elapsedText()
+        onTriggered: root.elapsed = root.progress.elapsedText()
     }
 
     ColumnLayout {
@@ -43,7 +43,7 @@ Item {
                     objectName: "foundCount"
                     integer: root.progress.itemCount
                     unit: root.progress.itemCount === 1 ? qsTrId("phase.scan.unit.one") : qsTrId("phase.scan.unit.other")
-                    spoken: qsTrId("phase.scan.items").arg(root.model.countText(root.progress.itemCount))
+                    spoken: qsTrId("phase.scan.items").arg(root.progress.itemCountText)
                     size: 56
                 }
             }
@@ -70,7 +70,7 @@ Item {
                 model: root.progress.steps
                 delegate: Rectangle {
                     id: tile
-                    required property var modelData
+                    required property scanStep modelData
                     readonly property string state_: modelData.state
                     width: 168
                     height: 58
@@ -79,11 +79,7 @@ Item {
                     border.width: 1
                     border.color: state_ === "scanning" ? PainelTheme.accent : PainelTheme.border
                     Accessible.role: Accessible.StaticText
-                    Accessible.name: modelData.title + ", " + tile.valueText
-
-                    readonly property string valueText: state_ === "done"
-                        ? (modelData.doneText.length > 0 ? modelData.doneText : modelData.size.text)
-                        : state_ === "scanning" ? qsTrId("phase.step.scanning") : qsTrId("phase.step.waiting")
+                    Accessible.name: modelData.title + ", " + modelData.valueText
 
                     Column {
                         anchors.fill: parent
@@ -99,7 +95,7 @@ Item {
                         }
                         Text {
                             width: parent.width
-                            text: tile.valueText
+                            text: tile.modelData.valueText
                             color: tile.state_ === "done" ? PainelTheme.text
                                  : tile.state_ === "scanning" ? PainelTheme.accent : PainelTheme.faint
                             font.family: PainelTheme.monoFamily
@@ -132,7 +128,7 @@ Item {
                 tint: LEDMeter.Accent
                 fraction: root.progress.stepCount > 0 ? root.progress.doneCount / root.progress.stepCount : 0
                 label: qsTrId("phase.scan.progress")
-                value: qsTrId("phase.scan.progress.value").arg(root.progress.doneCount).arg(root.progress.stepCount)
+                valueText: qsTrId("phase.scan.progress.value").arg(root.progress.doneCount).arg(root.progress.stepCount)
             }
             Text {
                 objectName: "currentPath"
@@ -150,6 +146,8 @@ Item {
         PainelButton {
             objectName: "stopKey"
             visible: root.model.actions.hasStop
+            // The scan key that started the scan is gone with the idle panel: focus lands here.
+            focus: true
             text: qsTrId("phase.scan.stop")
             onClicked: root.model.actions.stop()
         }

@@ -27,27 +27,22 @@ TEST_F(PreferencesStore, NeverWrittenKeysReadAsTheirDefaults) {
     EXPECT_TRUE(preferences.showMenuBarAgent());
     EXPECT_FALSE(preferences.launchAtLogin());
     EXPECT_FALSE(preferences.notifyOutdatedApps());
-    EXPECT_EQ(preferences.cleanDestination(), "trash");
-    EXPECT_EQ(preferences.accent(), "orange");
+    EXPECT_EQ(preferences.cleanDestinationRaw(), "trash");
+    EXPECT_EQ(preferences.accentRaw(), "orange");
     EXPECT_FALSE(preferences.onboardingDone());
 }
 
-TEST_F(PreferencesStore, WritesLandUnderTheirKeysAndWakeEveryInstance) {
-    Preferences writer;
-    const Preferences reader;
-    QSignalSpy woken(&reader, &Preferences::changed);
-    writer.setShowMenuBarAgent(false);
-    writer.setNotifyOutdatedApps(true);
-    writer.setCleanDestination("delete");
-    writer.setAccent("lime");
-    writer.setOnboardingDone(true);
-    EXPECT_EQ(woken.count(), 5);
-
-    EXPECT_FALSE(reader.showMenuBarAgent());
-    EXPECT_TRUE(reader.notifyOutdatedApps());
-    EXPECT_EQ(reader.cleanDestination(), "delete");
-    EXPECT_EQ(reader.accent(), "lime");
-    EXPECT_TRUE(reader.onboardingDone());
+TEST_F(PreferencesStore, WritesLandUnderTheirKeysAndNotifyOnlyOnChange) {
+    Preferences preferences;
+    QSignalSpy destination(&preferences, &Preferences::cleanDestinationChanged);
+    QSignalSpy accent(&preferences, &Preferences::accentChanged);
+    preferences.setShowMenuBarAgent(false);
+    preferences.setNotifyOutdatedApps(true);
+    preferences.setCleanDestinationRaw("delete");
+    preferences.setAccentRaw("lime");
+    preferences.setOnboardingDone(true);
+    EXPECT_EQ(destination.count(), 1);
+    EXPECT_EQ(accent.count(), 1);
 
     const QSettings raw;
     EXPECT_EQ(raw.value("showMenuBarAgent").toBool(), false);
@@ -56,19 +51,19 @@ TEST_F(PreferencesStore, WritesLandUnderTheirKeysAndWakeEveryInstance) {
     EXPECT_EQ(raw.value("accent").toString(), "lime");
     EXPECT_EQ(raw.value("onboardingDone").toBool(), true);
 
-    writer.setAccent("lime");
-    EXPECT_EQ(woken.count(), 5) << "an unchanged value wakes nobody";
+    preferences.setAccentRaw("lime");
+    EXPECT_EQ(accent.count(), 1) << "an unchanged value wakes nobody";
 }
 
 TEST_F(PreferencesStore, UnknownRawValuesAreNeitherWrittenNorRead) {
     Preferences preferences;
-    preferences.setCleanDestination("shred");
-    preferences.setAccent("purple");
+    preferences.setCleanDestinationRaw("shred");
+    preferences.setAccentRaw("purple");
     EXPECT_FALSE(QSettings().contains("cleanDestination"));
     EXPECT_FALSE(QSettings().contains("accent"));
 
     QSettings().setValue("cleanDestination", "Delete");
     QSettings().setValue("accent", "teal");
-    EXPECT_EQ(preferences.cleanDestination(), "trash");
-    EXPECT_EQ(preferences.accent(), "orange");
+    EXPECT_EQ(preferences.cleanDestination(), CleanDestination::trash);
+    EXPECT_EQ(preferences.accent(), PainelAccent::orange);
 }

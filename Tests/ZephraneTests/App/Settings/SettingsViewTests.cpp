@@ -4,6 +4,8 @@
 #include "App/FullDiskAccessMonitor.hpp"
 #include "App/MainWindow.hpp"
 #include "App/Preferences.hpp"
+#include "App/ZephraneModule.hpp"
+#include "Modules/Junk/SystemJunkModel.hpp"
 #include "Support/QmlTestSupport.hpp"
 
 #include <QQmlApplicationEngine>
@@ -68,10 +70,13 @@ protected:
     QQuickWindow& load(const QByteArray& source = {}) {
         QQmlComponent component(&engine);
         if (source.isEmpty())
-            component.loadUrl(QUrl(QStringLiteral("qrc:/Zephrane/SettingsView.qml")));
+            component.loadUrl(QUrl(QString::fromLatin1(ZephraneModule::root) + "App/Settings/SettingsView.qml"));
         else
             component.setData(source, QUrl(QStringLiteral("qrc:/Zephrane/TestHost.qml")));
-        window.reset(qobject_cast<QQuickWindow*>(component.create()));
+        if (!component.isReady())
+            ADD_FAILURE() << component.errorString().toStdString();
+        window.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(
+            source.isEmpty() ? QVariantMap{{"preferences", QVariant::fromValue(&preferences)}} : QVariantMap{})));
         EXPECT_NE(window, nullptr) << component.errorString().toStdString();
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
@@ -80,6 +85,7 @@ protected:
     }
 
     QmlTestSupport::WarningCollector warnings;
+    Preferences preferences;
     QQmlEngine engine;
     std::unique_ptr<QQuickWindow> window;
 };
@@ -127,17 +133,17 @@ TEST_F(SettingsWindow, TheAccentRecoloursAtOnceAndIsKept) {
     QQuickItem* blue = findBy(view, "modelData", "blue");
     ASSERT_NE(blue, nullptr);
     click(view, *blue);
-    EXPECT_EQ(Preferences().accent(), "blue");
+    EXPECT_EQ(preferences.accent(), PainelAccent::blue);
     EXPECT_EQ(QSettings().value("accent").toString(), "blue");
     QmlTestSupport::saveScreenshot(view, "settings-accent-blue");
     QQuickItem* orange = findBy(view, "modelData", "orange");
     ASSERT_NE(orange, nullptr);
     click(view, *orange);
-    EXPECT_EQ(Preferences().accent(), "orange");
+    EXPECT_EQ(preferences.accent(), PainelAccent::orange);
 }
 
 TEST_F(SettingsWindow, TheWelcomeKeyStartsTheOnboardingOverAndAsksForTheMainWindow) {
-    Preferences().setOnboardingDone(true);
+    preferences.setOnboardingDone(true);
     QQuickWindow& view = load();
     QSignalSpy asked(&view, SIGNAL(welcomeRequested()));
     QQuickItem* welcome = findItem(view, qtTrId("settings.about.welcome"));
@@ -146,18 +152,25 @@ TEST_F(SettingsWindow, TheWelcomeKeyStartsTheOnboardingOverAndAsksForTheMainWind
     view.resize(view.width(), 1000);
     QmlTestSupport::settle();
     click(view, *welcome);
-    EXPECT_FALSE(Preferences().onboardingDone());
+    EXPECT_FALSE(preferences.onboardingDone());
     EXPECT_EQ(asked.count(), 1);
 }
 
-TEST_F(SettingsWindow, TheDestinationChoiceIsStored) {
+TEST_F(SettingsWindow, TheDestinationIsOneSettingForTheWindowAndEveryChannel) {
+    SystemJunkModel junk(preferences);
     QQuickWindow& view = load();
     QQuickItem* permanent = findItem(view, qtTrId("settings.cleaning.delete"));
     ASSERT_NE(permanent, nullptr);
     click(view, *permanent);
-    EXPECT_EQ(Preferences().cleanDestination(), "delete");
-    click(view, *findItem(view, qtTrId("settings.cleaning.trash")));
-    EXPECT_EQ(Preferences().cleanDestination(), "trash");
+    EXPECT_EQ(preferences.cleanDestination(), CleanDestination::deleteForGood);
+    EXPECT_EQ(junk.destination(), CleanDestination::deleteForGood) << "the channel follows the window at once";
+
+    // And the open window follows a choice made in a channel.
+    junk.setDestination(CleanDestination::trash);
+    QmlTestSupport::settle();
+    QQuickItem* choice = findBy(view, "accessibleName", qtTrId("settings.cleaning.title"));
+    ASSERT_NE(choice, nullptr);
+    EXPECT_EQ(choice->property("current").toString(), "trash");
 }
 
 TEST_F(SettingsWindow, TheBannerShowsWhileTheGrantIsMissing) {

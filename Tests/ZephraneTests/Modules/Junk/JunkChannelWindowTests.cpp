@@ -5,6 +5,7 @@
 #include "Support/QmlTestSupport.hpp"
 
 #include <QDir>
+#include <QPointer>
 #include <QProcess>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
@@ -110,9 +111,20 @@ void runJunkChannel(const QString& language) {
         devCaches->forceActiveFocus();
         QTest::keyClick(window, Qt::Key_Space);
         QmlTestSupport::settle(120);
-        EXPECT_NE(findVisible(caches, "itemCheck"), nullptr) << "Return opens the category";
+        const QPointer<QQuickItem> firstItem = findVisible(caches, "itemCheck");
+        ASSERT_NE(firstItem, nullptr) << "Return opens the category";
         const auto& devGroup = junk.groups()[3];
-        EXPECT_EQ(junk.selectionState(devGroup), (SystemJunkModel::SelectionState{false, false}));
+        EXPECT_EQ(junk.selection()->stateOf(devGroup.items), (CleanupSelection::State{false, false}));
+
+        // Ticking an item from the keyboard keeps the focus on it.
+        firstItem->forceActiveFocus();
+        const int before = junk.selection()->count();
+        QTest::keyClick(window, Qt::Key_Space);
+        QmlTestSupport::settle();
+        EXPECT_NE(junk.selection()->count(), before);
+        EXPECT_TRUE(firstItem && firstItem->hasActiveFocus()) << "the ticked item keeps the focus";
+        QTest::keyClick(window, Qt::Key_Space);
+        QmlTestSupport::settle();
         QmlTestSupport::saveScreenshot(*window, shot + "3-results");
 
         click(window, find(window, "cleanKey"));

@@ -1,10 +1,13 @@
 #include "CleanerCore/Display/CoreL10n.hpp"
 #include "JunkHome.hpp"
+#include "App/Preferences.hpp"
 #include "Modules/Junk/JunkCategoryList.hpp"
+#include "Modules/Shared/CleanupItemList.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
 #include "TempTree.hpp"
 
 #include <QAbstractItemModelTester>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -18,7 +21,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-using State = SystemJunkModel::SelectionState;
+using State = CleanupSelection::State;
 
 void finish(const QFuture<void>& future) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return future.isFinished(); }, 20000));
@@ -38,7 +41,8 @@ int rowOf(const JunkCategoryList& rows, const QString& ruleId) {
 
 struct JunkModel : testing::Test {
     TestSupport::TempTree tree;
-    SystemJunkModel model;
+    Preferences preferences;
+    SystemJunkModel model{preferences};
     JunkCategoryList& rows = *model.categoryList();
     QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
     int runningReads = 0;
@@ -88,14 +92,15 @@ TEST_F(JunkModel, ScanTicksOffEachRuleAndPreselectsWhatTheRulesSay) {
     // The open application's cache is listed with its note, off, and its category shows mixed.
     const JunkGroup& caches = group("user-caches");
     EXPECT_EQ(caches.items[0].note, CleanerCore::CoreL10n::string("core.note.appOpen"));
-    EXPECT_FALSE(model.selection().contains(caches.items[0].url));
-    EXPECT_TRUE(model.selection().contains(caches.items[1].url));
-    EXPECT_EQ(model.selectionState(caches), (State{false, true}));
+    EXPECT_FALSE(model.selection()->contains(caches.items[0].url));
+    EXPECT_TRUE(model.selection()->contains(caches.items[1].url));
+    EXPECT_EQ(model.selection()->stateOf(caches.items), (State{false, true}));
     const int cacheRow = rowOf(rows, "user-caches");
     EXPECT_TRUE(role(rows, cacheRow, JunkCategoryList::IsMixedRole).toBool());
-    const QVariantList items = role(rows, cacheRow, JunkCategoryList::ItemsRole).toList();
-    EXPECT_EQ(items[0].toMap()["subtitle"], QString::fromStdString(*caches.items[0].note));
-    EXPECT_EQ(items[1].toMap()["subtitle"], "~/Library/Caches/com.example.tool");
+    const auto* items = role(rows, cacheRow, JunkCategoryList::ItemsRole).value<CleanupItemList*>();
+    ASSERT_NE(items, nullptr);
+    EXPECT_EQ(items->data(items->index(0), CleanupItemList::SubtitleRole), QString::fromStdString(*caches.items[0].note));
+    EXPECT_EQ(items->data(items->index(1), CleanupItemList::SubtitleRole), "~/Library/Caches/com.example.tool");
 
     // The largest category fills its meter; the others are measured against it.
     const JunkGroup& largest = *std::ranges::max_element(model.groups(), {}, &JunkGroup::totalSize);
@@ -110,27 +115,32 @@ TEST_F(JunkModel, ScanTicksOffEachRuleAndPreselectsWhatTheRulesSay) {
 TEST_F(JunkModel, RulesLeftOffStartOffWithTheirTagAndTurnOnWhole) {
     finish(model.scan());
     const JunkGroup& dot = group("dot-cache");
-    EXPECT_EQ(model.selectionState(dot), (State{false, false}));
+    EXPECT_EQ(model.selection()->stateOf(dot.items), (State{false, false}));
     const int dotRow = rowOf(rows, "dot-cache");
     EXPECT_EQ(role(rows, dotRow, JunkCategoryList::TagRole), "junk.tag.review");
     EXPECT_EQ(role(rows, rowOf(rows, "user-caches"), JunkCategoryList::TagRole), "junk.tag.review");
     EXPECT_EQ(role(rows, rowOf(rows, "xcode"), JunkCategoryList::TagRole), "");
 
     model.toggleGroup("dot-cache");
-    EXPECT_EQ(model.selectionState(dot), (State{true, false}));
+    EXPECT_EQ(model.selection()->stateOf(dot.items), (State{true, false}));
     EXPECT_TRUE(role(rows, dotRow, JunkCategoryList::IsOnRole).toBool());
     model.toggleGroup("dot-cache");
-    EXPECT_EQ(model.selectionState(dot), (State{false, false}));
+    EXPECT_EQ(model.selection()->stateOf(dot.items), (State{false, false}));
 
     // A mixed category turns on whole; one item turned off makes it mixed again.
     model.toggleGroup("user-caches");
-    EXPECT_EQ(model.selectionState(group("user-caches")), (State{true, false}));
-    model.setSelected(QString::fromStdString(group("user-caches").items[2].url.path()), false);
-    EXPECT_EQ(model.selectionState(group("user-caches")), (State{false, true}));
-    EXPECT_FALSE(role(rows, rowOf(rows, "user-caches"), JunkCategoryList::ItemsRole)
-                     .toList()[2]
-                     .toMap()["selected"]
-                     .toBool());
+    EXPECT_EQ(model.selection()->stateOf(group("user-caches").items), (State{true, false}));
+    const auto* items = role(rows, rowOf(rows, "user-caches"), JunkCategoryList::ItemsRole).value<CleanupItemList*>();
+    ASSERT_NE(items, nullptr);
+    QSignalSpy lamps(items, &QAbstractItemModel::dataChanged);
+    QSignalSpy resets(items, &QAbstractItemModel::modelReset);
+    model.selection()->setSelected(QString::fromStdString(group("user-caches").items[2].url.path()), false);
+    EXPECT_EQ(model.selection()->stateOf(group("user-caches").items), (State{false, true}));
+    EXPECT_FALSE(items->data(items->index(2), CleanupItemList::SelectedRole).toBool());
+    EXPECT_EQ(lamps.count(), 1) << "the item's lamp changes in place";
+    EXPECT_EQ(resets.count(), 0);
+    EXPECT_EQ(role(rows, rowOf(rows, "user-caches"), JunkCategoryList::ItemsRole).value<CleanupItemList*>(), items)
+        << "the rows keep their item lists, so an open list and its focus stay";
 }
 
 TEST_F(JunkModel, StopInAFirstScanLeavesNothingBehind) {
@@ -153,7 +163,8 @@ TEST(JunkModelCleaning, AfterAPartialFailureTheRowsShowWhatRemains) {
         // The home's own Library folder: proposed by this rule, refused by the guard at removal.
         {"library", "Library", "", "", {JunkRule::Source::folder("Library")}, true},
     };
-    SystemJunkModel model(rules);
+    Preferences preferences;
+    SystemJunkModel model(preferences, rules);
     model.setHome(URL::file(tree.root().string()));
     model.setRunningBundleIDs([] { return std::set<std::string>{}; });
     finish(model.scan());
@@ -179,6 +190,6 @@ TEST(JunkModelCleaning, AfterAPartialFailureTheRowsShowWhatRemains) {
     const JunkCategoryList& rows = *model.categoryList();
     ASSERT_EQ(rows.rowCount(), 1);
     EXPECT_EQ(role(rows, 0, JunkCategoryList::RuleIdRole), "library");
-    EXPECT_EQ(model.selectionState(model.groups()[1]), (State{true, false}));
-    EXPECT_EQ(model.selection().size(), 1u);
+    EXPECT_EQ(model.selection()->stateOf(model.groups()[1].items), (State{true, false}));
+    EXPECT_EQ(model.selection()->count(), 1);
 }

@@ -85,7 +85,7 @@ protected:
     QPoint folderArc(int depth) const {
         auto* map = qobject_cast<SunburstCanvas*>(find("sunburst"));
         const auto geometry = map->geometry();
-        for (const auto& segment : lens->segments()) {
+        for (const auto& segment : lens->navigation()->segments()) {
             if (segment.depth != depth || !segment.node->isDirectory() || segment.node->children().empty())
                 continue;
             const double angle = (segment.start + segment.end) / 2;
@@ -121,14 +121,14 @@ TEST_F(LensWindow, ScansDrillsDownByPointerAndKeyboardMarksAndRemoves) {
     auto* map = qobject_cast<SunburstCanvas*>(find("sunburst"));
     ASSERT_NE(map, nullptr);
     ASSERT_NE(find("lensList"), nullptr);
-    EXPECT_FALSE(lens->segments().empty());
+    EXPECT_FALSE(lens->navigation()->segments().empty());
     QmlTestSupport::saveScreenshot(*window, "lens-root");
 
     // Pointer: a double tap on a folder's arc opens it, the reveal runs, a tap on the centre goes up.
     const QPoint archive = folderArc(1);
     ASSERT_FALSE(archive.isNull());
     QTest::mouseDClick(window, Qt::LeftButton, {}, archive);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return lens->path().size() == 2; }, 2000));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return lens->navigation()->path().size() == 2; }, 2000));
     EXPECT_LT(map->progress(), 1);
     waitForReveal();
     EXPECT_EQ(map->progress(), 1);
@@ -139,28 +139,28 @@ TEST_F(LensWindow, ScansDrillsDownByPointerAndKeyboardMarksAndRemoves) {
     QTest::mouseClick(window, Qt::LeftButton, {}, inner);
     const int tapWait = QGuiApplication::styleHints()->mouseDoubleClickInterval() + 200;
     QmlTestSupport::settle(tapWait);
-    ASSERT_TRUE(lens->cursor());
-    EXPECT_EQ(lens->path().size(), 2u);
+    ASSERT_TRUE(lens->navigation()->cursor());
+    EXPECT_EQ(lens->navigation()->path().size(), 2u);
     const QPoint centre = map->mapToScene(QPointF(map->width() / 2, map->height() / 2)).toPoint();
     QTest::mouseClick(window, Qt::LeftButton, {}, centre);
     QmlTestSupport::settle(tapWait);
-    EXPECT_EQ(lens->path().size(), 1u);
+    EXPECT_EQ(lens->navigation()->path().size(), 1u);
     // The folder one came from stays lit.
-    EXPECT_EQ(lens->highlightedRowIndex(), 0);
+    EXPECT_EQ(lens->navigation()->highlightedRowIndex(), 0);
 
     // Keyboard: down the list, open, mark, back up.
     find("lensList")->forceActiveFocus();
     QTest::keyClick(window, Qt::Key_Down);
-    EXPECT_EQ(lens->highlightedRowIndex(), 1);
-    const std::string projects = lens->rowNodes()[1]->path();
+    EXPECT_EQ(lens->navigation()->highlightedRowIndex(), 1);
+    const std::string projects = lens->navigation()->rowNodes()[1]->path();
     QTest::keyClick(window, Qt::Key_Right);
-    EXPECT_EQ(lens->focusNode()->path(), projects);
+    EXPECT_EQ(lens->navigation()->focusNode()->path(), projects);
     waitForReveal();
     QmlTestSupport::saveScreenshot(*window, "lens-keyboard-depth2");
     QTest::keyClick(window, Qt::Key_Down, Qt::ControlModifier); // opens nothing without a cursor
     QTest::keyClick(window, Qt::Key_Down);
     QTest::keyClick(window, Qt::Key_Down, Qt::ControlModifier);
-    EXPECT_EQ(lens->path().size(), 3u);
+    EXPECT_EQ(lens->navigation()->path().size(), 3u);
     waitForReveal();
     QmlTestSupport::saveScreenshot(*window, "lens-depth3");
     QTest::keyClick(window, Qt::Key_Down);
@@ -169,15 +169,15 @@ TEST_F(LensWindow, ScansDrillsDownByPointerAndKeyboardMarksAndRemoves) {
     const URL markedDeep = lens->markedNodes().front()->url();
     QTest::keyClick(window, Qt::Key_Left);
     QTest::keyClick(window, Qt::Key_Up, Qt::ControlModifier);
-    EXPECT_EQ(lens->path().size(), 1u);
-    const std::int64_t before = lens->root()->size();
+    EXPECT_EQ(lens->navigation()->path().size(), 1u);
+    const std::int64_t before = lens->navigation()->root()->size();
 
     // Mark the photos folder as well, then look at the lit map.
     const URL photos = URL::file(tree.path("photos").string());
-    lens->setCursor(photos);
+    lens->navigation()->setCursor(photos);
     QTest::keyClick(window, Qt::Key_Space);
     ASSERT_EQ(lens->markedCount(), 2);
-    lens->setCursor(std::nullopt);
+    lens->navigation()->setCursor(std::nullopt);
     waitForReveal();
     QmlTestSupport::saveScreenshot(*window, "lens-marked");
 
@@ -193,7 +193,7 @@ TEST_F(LensWindow, ScansDrillsDownByPointerAndKeyboardMarksAndRemoves) {
     EXPECT_EQ(lens->lastReport()->removed.size(), 2u);
     EXPECT_FALSE(std::filesystem::exists(tree.path("photos")));
     EXPECT_FALSE(std::filesystem::exists(markedDeep.path()));
-    EXPECT_LT(lens->root()->size(), before - 2'000'000);
+    EXPECT_LT(lens->navigation()->root()->size(), before - 2'000'000);
     EXPECT_EQ(lens->rows()->rowCount(), rowsBefore - 1);
     EXPECT_EQ(lens->markedCount(), 0);
     QmlTestSupport::settle();
@@ -206,11 +206,11 @@ TEST_F(LensWindow, ScansDrillsDownByPointerAndKeyboardMarksAndRemoves) {
 TEST_F(LensWindow, ReadsInPortugueseWithAHighlightedFolder) {
     QmlTestSupport::useLanguage("pt-BR");
     scanAndWait();
-    lens->open(lens->rowNodes()[0]->url());
-    lens->moveCursor(1);
+    lens->navigation()->open(lens->navigation()->rowNodes()[0]->url());
+    lens->navigation()->moveCursor(1);
     waitForReveal();
     QmlTestSupport::saveScreenshot(*window, "lens-pt-highlighted");
-    lens->goUp();
+    lens->navigation()->goUp();
     waitForReveal();
     QmlTestSupport::saveScreenshot(*window, "lens-pt-root");
 }

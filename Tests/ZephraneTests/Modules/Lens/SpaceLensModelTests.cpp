@@ -1,6 +1,10 @@
 #include "App/Announcer.hpp"
+#include "App/Preferences.hpp"
+#include "Modules/Lens/LensMarks.hpp"
+#include "Modules/Lens/LensText.hpp"
 #include "Modules/Lens/LensRowsModel.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
+#include "Painel/ByteFormat.hpp"
 #include "TempTree.hpp"
 
 #include <QAbstractItemModelTester>
@@ -39,11 +43,15 @@ URL url(const std::string& path) {
 
 // The model with its results handed in directly, so that navigation, marks and the rebuild after a
 // removal can be tested on a tree of known shape.
-class LensUnderTest : public SpaceLensModel {
+struct OwnPreferences {
+    Preferences preferences;
+};
+class LensUnderTest : private OwnPreferences, public SpaceLensModel {
 public:
+    LensUnderTest() : SpaceLensModel(OwnPreferences::preferences) {}
     using SpaceLensModel::categories;
     using SpaceLensModel::dropRemoved;
-    void adopt(Node tree) { adoptResults({std::any(std::move(tree))}); }
+    void adopt(Node tree) { navigation()->show(std::move(tree)); }
 };
 
 //  /r (1000)
@@ -89,22 +97,22 @@ TEST(SpaceLensMarks, AnEnclosingMarkWinsWhicheverComesFirst) {
     lens.adopt(sampleTree());
     lens.toggleMark(url("/r/docs"));
     lens.toggleMark(url("/r/docs/notes/a.txt"));
-    EXPECT_EQ(lens.selection(), (std::unordered_set<URL>{url("/r/docs")}));
+    EXPECT_EQ(lens.selection()->urls(), (std::unordered_set<URL>{url("/r/docs")}));
     EXPECT_TRUE(lens.isMarked(url("/r/docs/notes/a.txt")));
 
     lens.toggleMark(url("/r/docs"));
-    EXPECT_TRUE(lens.selection().empty());
+    EXPECT_TRUE((lens.selection()->count() == 0));
 
     lens.toggleMark(url("/r/docs/notes/a.txt"));
     lens.toggleMark(url("/r/music/song"));
-    EXPECT_TRUE(lens.hasMarkedInside(url("/r/docs")));
+    EXPECT_TRUE(LensMarks::hasInside(lens.selection()->urls(), url("/r/docs")));
     EXPECT_FALSE(lens.isMarked(url("/r/docs")));
     lens.toggleMark(url("/r/docs"));
-    EXPECT_EQ(lens.selection(), (std::unordered_set<URL>{url("/r/docs"), url("/r/music/song")}));
+    EXPECT_EQ(lens.selection()->urls(), (std::unordered_set<URL>{url("/r/docs"), url("/r/music/song")}));
 
     // The aggregate stands for many items and is never marked.
     lens.toggleMark(url("/r/.zephrane-small-items"));
-    EXPECT_EQ(lens.selection().size(), 2u);
+    EXPECT_EQ(lens.selection()->urls().size(), 2u);
 
     EXPECT_EQ(paths(lens.markedNodes()), (std::vector<std::string>{"/r/docs", "/r/music/song"}));
     EXPECT_EQ(lens.markedCount(), 2);
@@ -118,7 +126,7 @@ TEST(SpaceLensMarks, AnEnclosingMarkWinsWhicheverComesFirst) {
 TEST(SpaceLensMarks, MarkedNodesSkipWhatTheTreeNoLongerHolds) {
     LensUnderTest lens;
     lens.adopt(sampleTree());
-    lens.setSelection({url("/r/music"), url("/r/gone")});
+    lens.selection()->set({url("/r/music"), url("/r/gone")});
     EXPECT_EQ(paths(lens.markedNodes()), (std::vector<std::string>{"/r/music"}));
 }
 
@@ -126,88 +134,90 @@ TEST(SpaceLensNavigation, OpensFoldersGoesUpAndKeepsTheFolderLeftBehindLit) {
     AnnouncementLog announced;
     LensUnderTest lens;
     lens.adopt(sampleTree());
-    lens.goUp();
-    EXPECT_EQ(lens.path().size(), 1u);
-    EXPECT_FALSE(lens.canGoUp());
+    lens.navigation()->goUp();
+    EXPECT_EQ(lens.navigation()->path().size(), 1u);
+    EXPECT_FALSE(lens.navigation()->canGoUp());
 
-    lens.open(url("/r/music/song")); // a file
-    lens.open(url("/r/.zephrane-small-items"));
-    EXPECT_EQ(lens.path().size(), 1u);
+    lens.navigation()->open(url("/r/music/song")); // a file
+    lens.navigation()->open(url("/r/.zephrane-small-items"));
+    EXPECT_EQ(lens.navigation()->path().size(), 1u);
 
-    lens.setCursor(url("/r/music"));
-    lens.open(url("/r/docs"));
-    EXPECT_EQ(paths(lens.path()), (std::vector<std::string>{"/r", "/r/docs"}));
-    EXPECT_FALSE(lens.cursor());
-    EXPECT_EQ(lens.segments().front().path, "/r/docs/big.pdf");
-    lens.open(url("/r/docs/notes"));
-    EXPECT_EQ(lens.pathNames(), (QStringList{"r", "docs", "notes"}));
+    lens.navigation()->setCursor(url("/r/music"));
+    lens.navigation()->open(url("/r/docs"));
+    EXPECT_EQ(paths(lens.navigation()->path()), (std::vector<std::string>{"/r", "/r/docs"}));
+    EXPECT_FALSE(lens.navigation()->cursor());
+    EXPECT_EQ(lens.navigation()->segments().front().path, "/r/docs/big.pdf");
+    lens.navigation()->open(url("/r/docs/notes"));
+    EXPECT_EQ(lens.navigation()->pathNames(), (QStringList{"r", "docs", "notes"}));
 
-    lens.goUp();
-    EXPECT_EQ(lens.focusNode()->path(), "/r/docs");
-    EXPECT_EQ(lens.cursor(), url("/r/docs/notes"));
-    EXPECT_EQ(lens.highlightedRowIndex(), 1);
-    EXPECT_EQ(lens.centreTitle(), "notes");
-    EXPECT_EQ(lens.centreLine(), "33% of docs");
+    lens.navigation()->goUp();
+    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
+    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs/notes"));
+    EXPECT_EQ(lens.navigation()->highlightedRowIndex(), 1);
+    EXPECT_EQ(lens.navigation()->centreTitle(), "notes");
+    EXPECT_EQ(lens.navigation()->centreLine(), "33% of docs");
 
-    lens.open(url("/r/docs/notes"));
-    lens.goToLevel(2); // already there
-    EXPECT_EQ(lens.path().size(), 3u);
-    lens.goToLevel(0);
-    EXPECT_EQ(lens.path().size(), 1u);
-    EXPECT_EQ(lens.cursor(), url("/r/docs"));
-    EXPECT_EQ(lens.centreLine(), "60% of r");
-    EXPECT_EQ(announced.said,
-              (QStringList{"Showing docs", "Showing notes", "Showing docs", "Showing notes", "Showing r"}));
+    lens.navigation()->goToLevel(0);
+    lens.navigation()->open(url("/r/docs/notes")); // a ring deeper than the rows: the way down is kept
+    EXPECT_EQ(lens.navigation()->pathNames(), (QStringList{"r", "docs", "notes"}));
+    lens.navigation()->goToLevel(2); // already there
+    EXPECT_EQ(lens.navigation()->path().size(), 3u);
+    lens.navigation()->goToLevel(0);
+    EXPECT_EQ(lens.navigation()->path().size(), 1u);
+    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs"));
+    EXPECT_EQ(lens.navigation()->centreLine(), "60% of r");
+    EXPECT_EQ(announced.said, (QStringList{"Showing docs", "Showing notes", "Showing docs", "Showing r",
+                                           "Showing notes", "Showing r"}));
 }
 
 TEST(SpaceLensNavigation, TheCursorStartsAtAnEndAndStopsAtTheEdgesAndHoverWins) {
     LensUnderTest lens;
-    lens.moveCursor(1); // no tree, no rows
-    EXPECT_FALSE(lens.cursor());
+    lens.navigation()->moveCursor(1); // no tree, no rows
+    EXPECT_FALSE(lens.navigation()->cursor());
     lens.adopt(sampleTree());
-    lens.moveCursor(-1);
-    EXPECT_EQ(lens.cursor(), url("/r/.zephrane-small-items"));
-    lens.moveCursor(1);
-    EXPECT_EQ(lens.highlightedRowIndex(), 2);
-    lens.moveCursor(-5);
-    EXPECT_EQ(lens.cursor(), url("/r/docs"));
-    lens.setCursor(std::nullopt);
-    lens.moveCursor(1);
-    EXPECT_EQ(lens.cursor(), url("/r/docs"));
+    lens.navigation()->moveCursor(-1);
+    EXPECT_EQ(lens.navigation()->cursor(), url("/r/.zephrane-small-items"));
+    lens.navigation()->moveCursor(1);
+    EXPECT_EQ(lens.navigation()->highlightedRowIndex(), 2);
+    lens.navigation()->moveCursor(-5);
+    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs"));
+    lens.navigation()->setCursor(std::nullopt);
+    lens.navigation()->moveCursor(1);
+    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs"));
 
     // A pointer over a deep arc lights the row that holds it.
-    lens.setHovered(url("/r/music/song"));
-    EXPECT_EQ(lens.highlightedRow(), url("/r/music"));
-    EXPECT_EQ(lens.highlightedNode()->path(), "/r/music/song");
-    lens.moveCursor(-1);
-    EXPECT_FALSE(lens.hovered());
-    EXPECT_EQ(lens.cursor(), url("/r/docs"));
-    lens.moveCursor(2);
-    EXPECT_EQ(lens.centreTitle(), "4 small items");
-    EXPECT_EQ(lens.centreLine(), "10% of r");
+    lens.navigation()->setHovered(url("/r/music/song"));
+    EXPECT_EQ(lens.navigation()->highlightedRow(), url("/r/music"));
+    EXPECT_EQ(lens.navigation()->highlightedNode()->path(), "/r/music/song");
+    lens.navigation()->moveCursor(-1);
+    EXPECT_FALSE(lens.navigation()->hovered());
+    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs"));
+    lens.navigation()->moveCursor(2);
+    EXPECT_EQ(lens.navigation()->centreTitle(), "4 small items");
+    EXPECT_EQ(lens.navigation()->centreLine(), "10% of r");
 }
 
 TEST(SpaceLensNavigation, KeysMoveOpenMarkAndMirrorRightToLeft) {
     LensUnderTest lens;
     lens.adopt(sampleTree());
     EXPECT_TRUE(lens.handleKey(Qt::Key_Down, Qt::NoModifier, false));
-    EXPECT_EQ(lens.cursor(), url("/r/docs"));
+    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs"));
     lens.handleKey(Qt::Key_Right, Qt::NoModifier, false);
-    EXPECT_EQ(lens.focusNode()->path(), "/r/docs");
+    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
     lens.handleKey(Qt::Key_Up, Qt::NoModifier, false);
-    EXPECT_EQ(lens.cursor(), url("/r/docs/notes"));
+    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs/notes"));
     lens.handleKey(Qt::Key_Down, Qt::ControlModifier, false);
-    EXPECT_EQ(lens.focusNode()->path(), "/r/docs/notes");
+    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs/notes");
     lens.handleKey(Qt::Key_Up, Qt::AltModifier, false);
-    EXPECT_EQ(lens.focusNode()->path(), "/r/docs");
+    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
     // Right to left, the right arrow goes back.
     lens.handleKey(Qt::Key_Right, Qt::NoModifier, true);
-    EXPECT_EQ(lens.focusNode()->path(), "/r");
+    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r");
     lens.handleKey(Qt::Key_Left, Qt::NoModifier, true);
-    EXPECT_EQ(lens.focusNode()->path(), "/r/docs");
+    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
     lens.handleKey(Qt::Key_Left, Qt::NoModifier, false);
     lens.handleKey(Qt::Key_Return, Qt::NoModifier, false);
-    EXPECT_EQ(lens.focusNode()->path(), "/r/docs");
+    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
     lens.handleKey(Qt::Key_Left, Qt::NoModifier, false);
     lens.handleKey(Qt::Key_Space, Qt::NoModifier, false);
     EXPECT_TRUE(lens.isMarked(url("/r/docs")));
@@ -217,33 +227,33 @@ TEST(SpaceLensNavigation, KeysMoveOpenMarkAndMirrorRightToLeft) {
 TEST(SpaceLensRemoval, TheTreeShrinksUpToTheRootAndThePathHoldsWhereItCan) {
     LensUnderTest lens;
     lens.adopt(sampleTree());
-    lens.open(url("/r/docs"));
-    lens.open(url("/r/docs/notes"));
+    lens.navigation()->open(url("/r/docs"));
+    lens.navigation()->open(url("/r/docs/notes"));
     lens.toggleMark(url("/r/docs/notes/a.txt"));
     lens.toggleMark(url("/r/music"));
-    lens.setSelection({url("/r/docs/notes/a.txt"), url("/r/music"), url("/r/music/song")});
-    lens.setCursor(url("/r/docs/notes/b.txt"));
+    lens.selection()->set({url("/r/docs/notes/a.txt"), url("/r/music"), url("/r/music/song")});
+    lens.navigation()->setCursor(url("/r/docs/notes/b.txt"));
 
     lens.dropRemoved({url("/r/docs/notes/a.txt"), url("/r/music")});
-    EXPECT_EQ(lens.root()->size(), 550);
-    EXPECT_EQ(paths(lens.path()), (std::vector<std::string>{"/r", "/r/docs", "/r/docs/notes"}));
-    EXPECT_EQ(lens.path()[1]->size(), 450);
-    EXPECT_EQ(lens.focusNode()->size(), 50);
-    EXPECT_EQ(lens.focusNode()->itemCount(), 1);
+    EXPECT_EQ(lens.navigation()->root()->size(), 550);
+    EXPECT_EQ(paths(lens.navigation()->path()), (std::vector<std::string>{"/r", "/r/docs", "/r/docs/notes"}));
+    EXPECT_EQ(lens.navigation()->path()[1]->size(), 450);
+    EXPECT_EQ(lens.navigation()->focusNode()->size(), 50);
+    EXPECT_EQ(lens.navigation()->focusNode()->itemCount(), 1);
     // Marks on removed items and inside them are gone.
-    EXPECT_TRUE(lens.selection().empty());
-    EXPECT_FALSE(lens.cursor());
+    EXPECT_TRUE((lens.selection()->count() == 0));
+    EXPECT_FALSE(lens.navigation()->cursor());
 
     // The focus's last child goes: the focus stays open, with no rows.
     lens.dropRemoved({url("/r/docs/notes/b.txt")});
-    EXPECT_EQ(lens.focusNode()->path(), "/r/docs/notes");
-    EXPECT_TRUE(lens.rowNodes().empty());
-    EXPECT_TRUE(lens.segments().empty());
+    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs/notes");
+    EXPECT_TRUE(lens.navigation()->rowNodes().empty());
+    EXPECT_TRUE(lens.navigation()->segments().empty());
     EXPECT_EQ(lens.rows()->rowCount(), 0);
 
     // The focus itself goes: the path ends at the last folder still there.
     lens.dropRemoved({url("/r/docs/notes")});
-    EXPECT_EQ(paths(lens.path()), (std::vector<std::string>{"/r", "/r/docs"}));
+    EXPECT_EQ(paths(lens.navigation()->path()), (std::vector<std::string>{"/r", "/r/docs"}));
 }
 
 TEST(SpaceLensRows, RowsFollowTheFocusMarksAndHighlight) {
@@ -269,23 +279,34 @@ TEST(SpaceLensRows, RowsFollowTheFocusMarksAndHighlight) {
     lens.toggleMark(url("/r/docs"));
     EXPECT_TRUE(value(0, LensRowsModel::IsOnRole).toBool());
     EXPECT_FALSE(value(0, LensRowsModel::IsMixedRole).toBool());
-    lens.setHovered(url("/r/music/song"));
+    lens.navigation()->setHovered(url("/r/music/song"));
     EXPECT_TRUE(value(1, LensRowsModel::IsHighlightedRole).toBool());
 
-    lens.open(url("/r/docs"));
+    // Inside a marked folder a row is covered by it, not marked itself: its own key has nothing to undo.
+    lens.navigation()->open(url("/r/docs"));
     EXPECT_EQ(rows.rowCount(), 2);
-    EXPECT_TRUE(value(1, LensRowsModel::IsOnRole).toBool());
+    EXPECT_TRUE(value(1, LensRowsModel::IsCoveredRole).toBool());
+    EXPECT_FALSE(value(1, LensRowsModel::IsOnRole).toBool());
+
+    // The pointer leaving a row ends its highlight, unless it is already over another.
+    LensNavigation& nav = *lens.navigation();
+    nav.setHoveredPath("/r/docs/big.pdf");
+    nav.setHoveredPath("/r/docs/notes");
+    nav.leave("/r/docs/big.pdf");
+    EXPECT_EQ(nav.hovered(), url("/r/docs/notes"));
+    nav.leave("/r/docs/notes");
+    EXPECT_FALSE(nav.hovered());
 }
 
 TEST(SpaceLensTexts, NamesAndShares) {
-    EXPECT_EQ(SpaceLensModel::displayName(URL::file(QDir::homePath().toStdString() + "/")), "Home");
-    EXPECT_EQ(SpaceLensModel::displayName(url("/")), "/");
-    EXPECT_EQ(SpaceLensModel::displayName(url("/a/b c")), "b c");
+    EXPECT_EQ(LensText::displayName(URL::file(QDir::homePath().toStdString() + "/")), "Home");
+    EXPECT_EQ(LensText::displayName(url("/")), "/");
+    EXPECT_EQ(LensText::displayName(url("/a/b c")), "b c");
     const QLocale english(QLocale::English);
-    EXPECT_EQ(SpaceLensModel::share(1, 10'000'000'000, english), "<1%");
-    EXPECT_EQ(SpaceLensModel::share(0, 10, english), "0%");
-    EXPECT_EQ(SpaceLensModel::share(5, 0, english), "0%");
-    EXPECT_EQ(SpaceLensModel::share(1, 2, QLocale(QLocale::Portuguese, QLocale::Brazil)), "50%");
+    EXPECT_EQ(LensText::share(1, 10'000'000'000, english), "<1%");
+    EXPECT_EQ(LensText::share(0, 10, english), "0%");
+    EXPECT_EQ(LensText::share(5, 0, english), "0%");
+    EXPECT_EQ(LensText::share(1, 2, QLocale(QLocale::Portuguese, QLocale::Brazil)), "50%");
 }
 
 TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {
@@ -294,7 +315,8 @@ TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {
     tree.file("a/b/two.bin", 200000);
     tree.file("three.bin", 100000);
 
-    SpaceLensModel lens;
+    Preferences preferences;
+    SpaceLensModel lens(preferences);
     EXPECT_EQ(lens.scanRoot(), URL::file(QDir::homePath().toStdString()));
     lens.setScanRoot(URL::file(tree.root().string()));
 
@@ -311,13 +333,15 @@ TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {
 
     ASSERT_TRUE(waitFor(lens.scan()));
     ASSERT_EQ(lens.phase(), ModulePhase::ready);
-    const Node scanned = lens.root();
+    const Node scanned = lens.navigation()->root();
     ASSERT_TRUE(scanned);
+    EXPECT_EQ(lens.foundSpoken(), ByteFormat::spoken(static_cast<double>(scanned->size())))
+        << "the results are announced with the size of the map, not of the (empty) marks";
     EXPECT_GE(scanned->size(), 600000);
     EXPECT_EQ(lens.progress().steps[0].state, ScanStep::State::done(scanned->size()));
     EXPECT_EQ(lens.progress().itemCount, scanned->itemCount());
-    EXPECT_EQ(lens.path().size(), 1u);
-    EXPECT_FALSE(lens.segments().empty());
+    EXPECT_EQ(lens.navigation()->path().size(), 1u);
+    EXPECT_FALSE(lens.navigation()->segments().empty());
     EXPECT_EQ(lens.painelPhase(), PainelPhase::results);
 
     lens.toggleMark(URL::file(tree.path("three.bin").string()));
@@ -325,18 +349,19 @@ TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {
     lens.stop();
     ASSERT_TRUE(waitFor(again));
     EXPECT_EQ(lens.phase(), ModulePhase::ready);
-    EXPECT_EQ(lens.root(), scanned);
+    EXPECT_EQ(lens.navigation()->root(), scanned);
     EXPECT_EQ(lens.markedCount(), 1);
 
     // A new tree starts with no marks.
     ASSERT_TRUE(waitFor(lens.scan()));
-    EXPECT_NE(lens.root(), scanned);
+    EXPECT_NE(lens.navigation()->root(), scanned);
     EXPECT_EQ(lens.markedCount(), 0);
 }
 
 TEST(SpaceLensScan, TheChooserStartsAtTheScanRootAndAnEmptyFolderShowsTheEmptyScreen) {
     TestSupport::TempTree tree;
-    SpaceLensModel lens;
+    Preferences preferences;
+    SpaceLensModel lens(preferences);
     QSignalSpy asked(&lens, &SpaceLensModel::folderChoiceRequested);
     lens.chooseFolderAndScan();
     ASSERT_EQ(asked.size(), 1);

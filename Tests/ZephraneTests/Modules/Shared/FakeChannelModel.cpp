@@ -13,31 +13,37 @@ void FakeChannelModel::Gate::wait() {
     changed.wait(lock, [this] { return isOpen; });
 }
 
-std::vector<ScanUnit> FakeChannelModel::scanUnits() {
-    std::vector<ScanUnit> units;
-    for (const PlannedUnit& planned : plan) {
-        units.push_back({planned.id, planned.title, QStringLiteral("~/fake/%1").arg(planned.id),
-                         [found = planned.found, gate = gate](std::stop_token, ScanFeed& feed) {
+ScanPlan FakeChannelModel::scanPlan() {
+    auto found = std::make_shared<std::vector<std::vector<CleanupCategory>>>(plan.size());
+    ScanPlan scan;
+    for (std::size_t index = 0; index < plan.size(); ++index) {
+        const PlannedUnit& planned = plan[index];
+        scan.units.push_back({planned.id, planned.title, QStringLiteral("~/fake/%1").arg(planned.id),
+                         [planned = planned.found, gate = gate, found, index](std::stop_token, ScanFeed& feed) {
                              if (gate)
                                  gate->wait();
                              ScanUnitResult result;
-                             for (const CleanupCategory& category : found) {
+                             for (const CleanupCategory& category : planned) {
                                  result.itemCount += static_cast<int>(category.items.size());
                                  result.bytes += CleanerCore::totalSize(category.items);
                              }
                              feed.found(result.itemCount);
-                             result.payload = found;
+                             (*found)[index] = planned;
                              return result;
                          }});
     }
-    return units;
+    scan.adopt = [this, found] {
+        results.clear();
+        for (std::vector<CleanupCategory>& unit : *found)
+            for (CleanupCategory& category : unit)
+                results.push_back(std::move(category));
+    };
+    return scan;
 }
 
-void FakeChannelModel::adoptResults(std::vector<std::any> payloads) {
-    results.clear();
-    for (std::any& payload : payloads)
-        for (CleanupCategory& category : std::any_cast<std::vector<CleanupCategory>&>(payload))
-            results.push_back(std::move(category));
+std::vector<CleanerCore::CleanupItem> FakeChannelModel::removedWith(const CleanerCore::CleanupItem& item) const {
+    const auto found = companions.find(item.url.path());
+    return found == companions.end() ? std::vector<CleanerCore::CleanupItem>{} : found->second;
 }
 
 void FakeChannelModel::dropRemoved(const std::unordered_set<CleanerCore::URL>& removed) {

@@ -3,6 +3,7 @@
 #include "Modules/Shared/ModulePhaseModel.hpp"
 
 #include <condition_variable>
+#include <map>
 #include <memory>
 #include <mutex>
 
@@ -31,10 +32,15 @@ public:
     std::vector<CleanupCategory> results;
 
     using ModulePhaseModel::ModulePhaseModel;
+    // A fixed way of removal, as a channel that always empties for good has; none by default.
+    std::optional<CleanDestination> fixedWay;
+    // Items to remove after each named item (by URL path).
+    std::map<std::string, std::vector<CleanerCore::CleanupItem>> companions;
 
 protected:
-    std::vector<ScanUnit> scanUnits() override;
-    void adoptResults(std::vector<std::any> payloads) override;
+    ScanPlan scanPlan() override;
+    std::optional<CleanDestination> fixedDestination() const override { return fixedWay; }
+    std::vector<CleanerCore::CleanupItem> removedWith(const CleanerCore::CleanupItem& item) const override;
     std::vector<CleanupCategory> categories() const override { return results; }
     void dropRemoved(const std::unordered_set<CleanerCore::URL>& removed) override;
 };

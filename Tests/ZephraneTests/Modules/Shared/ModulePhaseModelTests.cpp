@@ -1,8 +1,9 @@
 #include "Modules/Shared/FakeChannelModel.hpp"
 
+#include "App/Preferences.hpp"
+
 #include "TempTree.hpp"
 
-#include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -40,7 +41,8 @@ protected:
     }
 
     TestSupport::TempTree tree;
-    FakeChannelModel model;
+    Preferences preferences;
+    FakeChannelModel model{preferences};
 };
 
 } // namespace
@@ -64,15 +66,49 @@ TEST(CleanDestinations, MapToRemovalModesAndReadTrashWhenUnsetOrUnknown) {
     EXPECT_EQ(CleanDestinations::removalMode(CleanDestination::deleteForGood), RemovalMode::permanent);
     EXPECT_EQ(CleanDestinations::from(RemovalMode::permanent), CleanDestination::deleteForGood);
     EXPECT_EQ(CleanDestinations::from(RemovalMode::trash), CleanDestination::trash);
+}
 
-    QSettings().remove("cleanDestination");
-    EXPECT_EQ(CleanDestinations::stored(), CleanDestination::trash);
-    QSettings().setValue("cleanDestination", "shred");
-    EXPECT_EQ(CleanDestinations::stored(), CleanDestination::trash);
-    CleanDestinations::store(CleanDestination::deleteForGood);
-    EXPECT_EQ(QSettings().value("cleanDestination").toString(), "delete");
-    EXPECT_EQ(CleanDestinations::stored(), CleanDestination::deleteForGood);
-    QSettings().remove("cleanDestination");
+TEST_F(ModulePhaseLife, TheDestinationIsThePreferencesOwnAndEveryChannelSeesAChangeAtOnce) {
+    preferences.setCleanDestination(CleanDestination::trash);
+    FakeChannelModel other(preferences);
+    QSignalSpy seen(&other, &ModulePhaseModel::destinationChanged);
+    model.setDestinationRaw("delete");
+    EXPECT_EQ(preferences.cleanDestination(), CleanDestination::deleteForGood);
+    EXPECT_EQ(other.destination(), CleanDestination::deleteForGood);
+    EXPECT_EQ(seen.count(), 1);
+    preferences.setCleanDestination(CleanDestination::trash);
+    EXPECT_EQ(model.destinationRaw(), "trash");
+    EXPECT_EQ(seen.count(), 2);
+}
+
+TEST_F(ModulePhaseLife, AChannelWithItsOwnWayOfRemovalIgnoresTheStoredChoiceAndTakesCompanionsAlong) {
+    // As the trash channel: empty for good whatever is stored, and an index entry goes with its item.
+    tree.file("bin/files/a", 10);
+    tree.file("bin/info/a.entry", 1);
+    tree.file("bin/info/b.entry", 1);
+    tree.folder(".ssh");
+    tree.file("bin/info/ssh.entry", 1);
+    model.plan = {{"bin", "Bin", {fakeCategory("bin", inHome("bin/files"), {"a", "b"})}},
+                  {"keys", "Keys", {fakeCategory("keys", inHome(""), {".ssh"})}}};
+    model.fixedWay = CleanDestination::deleteForGood;
+    model.companions[inHome("bin/files/a")] = {{URL::file(inHome("bin/info/a.entry")), 1}};
+    model.companions[inHome("bin/files/b")] = {{URL::file(inHome("bin/info/b.entry")), 1}};
+    model.companions[inHome(".ssh")] = {{URL::file(inHome("bin/info/ssh.entry")), 1}};
+    preferences.setCleanDestination(CleanDestination::trash);
+    ASSERT_TRUE(finishes(model.scan()));
+
+    EXPECT_EQ(model.destination(), CleanDestination::deleteForGood);
+    model.setDestinationRaw("trash");
+    EXPECT_EQ(model.destination(), CleanDestination::deleteForGood) << "a fixed way cannot be changed";
+    model.setConfirming(true);
+    model.actions()->confirm();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return model.phase() == ModulePhase::done; }, 5000));
+    EXPECT_EQ(model.lastReport()->mode, RemovalMode::permanent);
+    EXPECT_FALSE(std::filesystem::exists(inHome("bin/files/a")));
+    EXPECT_FALSE(std::filesystem::exists(inHome("bin/info/a.entry"))) << "the companion of a removed item goes";
+    EXPECT_FALSE(std::filesystem::exists(inHome("bin/info/b.entry"))) << "an item already gone counts as removed";
+    EXPECT_TRUE(std::filesystem::exists(inHome("bin/info/ssh.entry"))) << "a refused item keeps its companion";
+    EXPECT_FALSE(std::filesystem::exists(tree.root() / ".local/share/Trash/files/a"));
 }
 
 TEST_F(ModulePhaseLife, AScanWithNoFindingsLandsInEmptyAndTheRescanFindsWhatAppeared) {
@@ -91,7 +127,7 @@ TEST_F(ModulePhaseLife, AScanWithNoFindingsLandsInEmptyAndTheRescanFindsWhatAppe
     EXPECT_EQ(model.progress().doneCount(), 2);
     EXPECT_FALSE(model.progress().currentPath.has_value());
     // Only what the scan preselects is selected.
-    EXPECT_EQ(model.selection(), (std::unordered_set{URL::file(inHome("c/a")), URL::file(inHome("l/x"))}));
+    EXPECT_EQ(model.selection()->urls(), (std::unordered_set{URL::file(inHome("c/a")), URL::file(inHome("l/x"))}));
     const CleanupSummary summary = model.summary();
     ASSERT_EQ(summary.lines.size(), 2u);
     EXPECT_EQ(summary.lines[0], (CleanupLine{"caches", "Category caches", 1, 1000}));
@@ -145,9 +181,9 @@ TEST_F(ModulePhaseLife, StopInAFirstScanReturnsToIdleWithNothingShown) {
 TEST_F(ModulePhaseLife, StopInARescanKeepsTheEarlierResultsAndTheirSelection) {
     planTwoCategories();
     ASSERT_TRUE(finishes(model.scan()));
-    model.setSelected(QString::fromStdString(inHome("c/b")), true);
-    model.setSelected(QString::fromStdString(inHome("l/x")), false);
-    const auto chosen = model.selection();
+    model.selection()->setSelected(QString::fromStdString(inHome("c/b")), true);
+    model.selection()->setSelected(QString::fromStdString(inHome("l/x")), false);
+    const auto chosen = model.selection()->urls();
     const auto items = model.allItems();
 
     model.plan = {{"other", "Other", {fakeCategory("other", inHome("o"), {"q"})}}};
@@ -159,7 +195,7 @@ TEST_F(ModulePhaseLife, StopInARescanKeepsTheEarlierResultsAndTheirSelection) {
     EXPECT_EQ(model.phase(), ModulePhase::ready);
     EXPECT_EQ(model.painelPhase(), PainelPhase::results);
     EXPECT_EQ(model.allItems(), items);
-    EXPECT_EQ(model.selection(), chosen);
+    EXPECT_EQ(model.selection()->urls(), chosen);
 }
 
 TEST_F(ModulePhaseLife, ScanAndCleanAreRefusedWhileARemovalRuns) {
@@ -192,7 +228,7 @@ TEST_F(ModulePhaseLife, WhenEveryItemFailsTheReportStillComesAndTheItemsStaySele
     model.plan = {
         {"docs", "Docs", {fakeCategory("docs", tree.root().string(), {"Documents", "Desktop"}, 4096)}}};
     ASSERT_TRUE(finishes(model.scan()));
-    const auto selected = model.selection();
+    const auto selected = model.selection()->urls();
     ASSERT_EQ(selected.size(), 2u);
 
     ASSERT_TRUE(finishes(model.clean(RemovalMode::permanent)));
@@ -207,7 +243,7 @@ TEST_F(ModulePhaseLife, WhenEveryItemFailsTheReportStillComesAndTheItemsStaySele
     model.done();
     EXPECT_EQ(model.painelPhase(), PainelPhase::results);
     EXPECT_EQ(model.allItems().size(), 2u);
-    EXPECT_EQ(model.selection(), selected);
+    EXPECT_EQ(model.selection()->urls(), selected);
 }
 
 TEST_F(ModulePhaseLife, CleaningReportsPerCategoryAtScanSizesAndAGoneItemCountsAsRemoved) {
@@ -224,7 +260,7 @@ TEST_F(ModulePhaseLife, CleaningReportsPerCategoryAtScanSizesAndAGoneItemCountsA
     QObject::connect(&model, &ModulePhaseModel::phaseChanged, [&] {
         if (model.phase() == ModulePhase::done)
             consistentAtDone = model.outcome() && model.lastReport() && model.allItems().size() == 1 &&
-                               model.selection().empty();
+                               model.selection()->count() == 0;
     });
     ASSERT_TRUE(finishes(model.clean(RemovalMode::permanent)));
     EXPECT_TRUE(consistentAtDone);
@@ -254,7 +290,7 @@ TEST_F(ModulePhaseLife, ConfirmingShowsTheSheetAndConfirmCleansToTheStoredDestin
     tree.file("c/a", 10);
     model.plan = {{"caches", "Caches", {fakeCategory("caches", inHome("c"), {"a"})}}};
     ASSERT_TRUE(finishes(model.scan()));
-    CleanDestinations::store(CleanDestination::deleteForGood);
+    preferences.setCleanDestination(CleanDestination::deleteForGood);
     model.setConfirming(true);
     EXPECT_EQ(model.painelPhase(), PainelPhase::confirm);
     EXPECT_EQ(model.destination(), CleanDestination::deleteForGood);
@@ -271,11 +307,12 @@ TEST_F(ModulePhaseLife, ConfirmingShowsTheSheetAndConfirmCleansToTheStoredDestin
     // The sheet closes straight into cleaning, never showing the results in between.
     EXPECT_EQ(screens, (std::vector{PainelPhase::cleaning, PainelPhase::success}));
     EXPECT_EQ(model.lastReport()->mode, RemovalMode::permanent);
-    QSettings().remove("cleanDestination");
+    preferences.setCleanDestination(CleanDestination::trash);
 }
 
 TEST(ModulePhaseModel, AModelDestroyedDuringAScanLeavesItsFutureFinished) {
-    auto doomed = std::make_unique<FakeChannelModel>();
+    Preferences preferences;
+    auto doomed = std::make_unique<FakeChannelModel>(preferences);
     doomed->plan = {{"caches", "Caches", {fakeCategory("caches", "/nowhere", {"a"})}}};
     doomed->gate = std::make_shared<FakeChannelModel::Gate>();
     auto gate = doomed->gate;

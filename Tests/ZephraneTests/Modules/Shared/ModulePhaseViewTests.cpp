@@ -1,5 +1,6 @@
 #include "App/Announcer.hpp"
 #include "Modules/Shared/FakeChannelModel.hpp"
+#include "App/Preferences.hpp"
 #include "Modules/Shared/PhaseAnnouncements.hpp"
 #include "Painel/ByteFormat.hpp"
 #include "Support/QmlTestSupport.hpp"
@@ -10,7 +11,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QSettings>
 #include <QTest>
 #include <QThreadPool>
 
@@ -87,7 +87,7 @@ protected:
     void open(bool contrast) {
         delete window;
         window = nullptr;
-        owned = std::make_unique<FakeChannelModel>();
+        owned = std::make_unique<FakeChannelModel>(preferences);
         owned->setRemovalHome(URL::file(tree.root().string()));
         QQmlComponent component(&engine);
         component.setData(windowQml, QUrl("qrc:/Zephrane/PhaseTestWindow.qml"));
@@ -132,6 +132,7 @@ protected:
 
     QmlTestSupport::WarningCollector warnings;
     TestSupport::TempTree tree;
+    Preferences preferences;
     std::unique_ptr<FakeChannelModel> owned;
     QQmlEngine engine;
     QQuickWindow* window = nullptr;
@@ -160,11 +161,15 @@ TEST_F(ModulePhaseScreens, EveryPhaseShowsItsPanelInBothLanguagesAndPalettes) {
             model().plan = {
                 {"caches", "User caches", {fakeCategory("caches", inHome("c"), {"a", "b", "c"}, 1'234'567)}},
                 {"logs", "Application and system logs", {fakeCategory("logs", inHome("l"), {"x"}, 52'000)}},
+                // The guard refuses the home's key folder: the report has a failure to show.
+                {"keys", "Keys", {fakeCategory("keys", inHome(""), {".ssh"}, 4'000)}},
                 {"xcode", "Developer leftovers", {}},
                 {"mail", "Mail downloads", {}}};
             model().gate = std::make_shared<FakeChannelModel::Gate>();
+            find("scanKey")->forceActiveFocus();
             QFuture<void> scan = model().scan();
             EXPECT_TRUE(shows("stopKey"));
+            EXPECT_TRUE(find("stopKey")->hasActiveFocus()) << "the scan key is gone: focus lands on the stop key";
             EXPECT_TRUE(shows("progressBar"));
             shoot("scanning", language, contrast);
             model().gate->open();
@@ -174,7 +179,7 @@ TEST_F(ModulePhaseScreens, EveryPhaseShowsItsPanelInBothLanguagesAndPalettes) {
             shoot("results", language, contrast);
 
             for (const char* destination : {"trash", "delete"}) {
-                QSettings().setValue("cleanDestination", destination);
+                preferences.setCleanDestinationRaw(destination);
                 model().setConfirming(true);
                 QmlTestSupport::settle();
                 EXPECT_TRUE(shows(destination == std::string("trash") ? "confirmKey" : "holdKey"));
@@ -182,10 +187,12 @@ TEST_F(ModulePhaseScreens, EveryPhaseShowsItsPanelInBothLanguagesAndPalettes) {
                 shoot(QStringLiteral("confirm-%1").arg(destination), language, contrast);
                 model().actions()->cancelConfirm();
             }
-            QSettings().setValue("cleanDestination", "trash");
+            preferences.setCleanDestination(CleanDestination::trash);
 
-            // "c/a" is removed, the rest fail or are gone; the pool is held so the panel can be seen.
+            // "c/a" is removed, ".ssh" is refused, the rest are gone; the pool is held so the panel
+            // can be seen.
             tree.file("c/a", 10);
+            tree.folder(".ssh");
             {
                 PoolBlocker blocker;
                 QFuture<void> cleaning = model().clean(CleanerCore::RemovalMode::trash);
@@ -199,17 +206,15 @@ TEST_F(ModulePhaseScreens, EveryPhaseShowsItsPanelInBothLanguagesAndPalettes) {
             EXPECT_TRUE(shows("reportTime"));
             EXPECT_FALSE(shows("emptyTrashKey")) << "no way to the trash was given";
             shoot("success", language, contrast);
-            if (QQuickItem* toggle = find("failuresToggle"); toggle && toggle->isVisible()) {
-                QMetaObject::invokeMethod(toggle, "clicked");
-                shoot("success-failures", language, contrast);
-            }
+            ASSERT_TRUE(shows("failuresToggle"));
+            QMetaObject::invokeMethod(find("failuresToggle"), "clicked");
+            shoot("success-failures", language, contrast);
             model().actions()->done();
 
             model().plan = {{"caches", "User caches", {}}};
             ASSERT_TRUE(finishes(model().scan()));
             EXPECT_TRUE(shows("rescanKey"));
             shoot("empty", language, contrast);
-            QSettings().remove("cleanDestination");
         }
 }
 
