@@ -13,7 +13,8 @@ namespace ZephraneCli {
 
 // What the removal engine would do with each path, without removing anything: "allowed" and the
 // path removal would act on, or "refused" and why. Relative paths are taken from the current folder.
-int runGuard(const std::vector<std::string>& words, std::ostream& out, std::ostream&) {
+int runGuard(const std::vector<std::string>& words, const Streams& streams) {
+    std::ostream& out = streams.out;
     const Arguments arguments = Arguments::parse(words, {}, {});
     if (arguments.positionals().empty())
         throw UsageError("no path given");

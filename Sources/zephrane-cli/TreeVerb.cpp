@@ -2,19 +2,21 @@
 #include "Cli.hpp"
 #include "DiskTreeJson.hpp"
 #include "MessageLocale.hpp"
+#include "PathProblem.hpp"
+#include "TerminalText.hpp"
 
 #include "CleanerCore/DiskTree/DiskTreeScanner.hpp"
-#include "CleanerCore/Display/ByteDisplay.hpp"
+#include "CleanerCore/Display/ByteFormatter.hpp"
+#include "CleanerCore/Files/UnreadableFolders.hpp"
 #include "CleanerCore/Platform/BulkListing.hpp"
 #include "CleanerCore/Platform/FileDescriptor.hpp"
 
 #include <cerrno>
-#include <cstring>
+#include <charconv>
 #include <fcntl.h>
-#include <iostream>
 #include <mutex>
+#include <ostream>
 #include <string>
-#include <unistd.h>
 
 namespace ZephraneCli {
 namespace {
@@ -23,18 +25,48 @@ using CleanerCore::DiskNode;
 
 // Levels below the root that the text report shows.
 constexpr int textLevels = 2;
+constexpr std::size_t flushAt = 256 * 1024;
 
-void printText(const DiskNode& node, int level, const std::string& locale, std::ostream& out) {
-    out << std::string(static_cast<std::size_t>(level) * 2, ' ')
-        << CleanerCore::ByteDisplay(node.size(), locale).formatted << "  "
-        << (level == 0 ? node.path() : std::string(node.name()));
-    if (node.isDirectory())
-        out << "/  (" << node.itemCount() << (node.itemCount() == 1 ? " item)" : " items)");
-    out << '\n';
-    if (level < textLevels)
-        for (const DiskNode::Pointer& child : node.children())
-            printText(*child, level + 1, locale, out);
-}
+// The text report: one line per node down to two levels below the root, "SIZE  NAME" with "/" and
+// the item count after a folder. Formatters are built once; every number comes from the tree.
+class TextReport {
+public:
+    TextReport(std::ostream& out, const std::string& locale, bool escape)
+        : out(out), bytes(locale), escape(escape) {}
+
+    void write(const DiskNode& node, int level) {
+        line.assign(static_cast<std::size_t>(level) * 2, ' ');
+        line += bytes.formatted(node.size());
+        line += "  ";
+        if (level == 0)
+            appendShown(line, node.path(), escape);
+        else
+            appendShown(line, node.name(), escape);
+        if (node.isDirectory()) {
+            line += "/  (";
+            char digits[24];
+            line.append(digits, std::to_chars(digits, digits + sizeof digits, node.itemCount()).ptr);
+            line += node.itemCount() == 1 ? " item)" : " items)";
+        }
+        line += '\n';
+        buffer += line;
+        if (buffer.size() >= flushAt) {
+            out.write(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+            buffer.clear();
+        }
+        if (level < textLevels)
+            for (const DiskNode::Pointer& child : node.children())
+                write(*child, level + 1);
+    }
+
+    ~TextReport() { out.write(buffer.data(), static_cast<std::streamsize>(buffer.size())); }
+
+private:
+    std::ostream& out;
+    const CleanerCore::ByteFormatter bytes;
+    const bool escape;
+    std::string line, buffer;
+};
 
 // One line on a terminal, rewritten in place; several scan threads may report at once.
 class TerminalProgress {
@@ -42,7 +74,7 @@ public:
     explicit TerminalProgress(std::ostream& err) : err(err) {}
     void operator()(std::int64_t count, const std::optional<std::string>& folder) {
         const std::lock_guard lock(mutex);
-        std::string shown = folder.value_or("");
+        std::string shown = escapedForTerminal(folder.value_or(""));
         if (shown.size() > 60)
             shown = "…" + shown.substr(shown.size() - 59);
         err << "\r\033[K" << count << " items  " << shown << std::flush;
@@ -56,37 +88,45 @@ private:
 
 } // namespace
 
-// The size tree of one folder: as JSON, or as text down to two levels below it. A folder that
-// can't be read is reported on stderr and comes out as an empty tree, as the engine gives it.
-int runTree(const std::vector<std::string>& words, std::ostream& out, std::ostream& err) {
+// The size tree of one folder: as JSON, or as text down to two levels below it. A root that can't
+// be read is one line on stderr and status 1; folders below it that can't be read are counted,
+// reported on one line, and make the status 1, the tree of the rest still printed.
+int runTree(const std::vector<std::string>& words, const Streams& streams) {
     const Arguments arguments = Arguments::parse(words, {"json"}, {"min-node-size", "keep"});
     if (arguments.positionals().size() != 1)
         throw UsageError("needs exactly one PATH");
-    const CleanerCore::DiskTreeScanner scanner{arguments.positionals().front(),
-                                               arguments.number("min-node-size", 1000000),
+    const std::string& root = arguments.positionals().front();
+    if (root.empty())
+        throw UsageError("the path is empty");
+    const CleanerCore::DiskTreeScanner scanner{root, arguments.number("min-node-size", 1000000),
                                                arguments.number("keep", 12)};
-
     {
-        const CleanerCore::Platform::FileDescriptor probe(
-            CleanerCore::Platform::openDirectory(AT_FDCWD, scanner.root.c_str()));
-        if (!probe)
-            err << "zephrane-cli tree: cannot read '" << scanner.root << "': " << std::strerror(errno)
-                << "\n";
+        const CleanerCore::Platform::FileDescriptor probe(CleanerCore::Platform::openDirectory(
+            AT_FDCWD, CleanerCore::standardizedPath(root).c_str()));
+        if (!probe) {
+            streams.err << "zephrane-cli tree: cannot read '" << escapedForTerminal(root)
+                        << "': " << pathProblem(root, errno) << "\n";
+            return 1;
+        }
     }
 
+    CleanerCore::UnreadableFolders unreadable;
     DiskNode::Pointer tree;
-    if (&err == &std::cerr && ::isatty(STDERR_FILENO)) {
-        TerminalProgress progress(err);
-        tree = scanner.scan(CleanerCore::DiskTreeScanner::Reporting(std::ref(progress)));
+    if (streams.errIsTerminal) {
+        TerminalProgress progress(streams.err);
+        tree = scanner.scan(CleanerCore::DiskTreeScanner::Reporting(std::ref(progress)), {}, &unreadable);
     } else {
-        tree = scanner.scan(CleanerCore::DiskTreeScanner::Reporting{});
+        tree = scanner.scan(CleanerCore::DiskTreeScanner::Reporting{}, {}, &unreadable);
     }
 
     if (arguments.has("json"))
-        DiskTreeJson(out).write(*tree);
+        DiskTreeJson(streams.out).write(*tree, unreadable.total());
     else
-        printText(*tree, 0, messageLocale(), out);
-    return 0;
+        TextReport(streams.out, messageLocale(), streams.outIsTerminal).write(*tree, 0);
+    if (unreadable.total() == 0)
+        return 0;
+    streams.err << "zephrane-cli tree: " << unreadableMessage(unreadable.total(), root) << "\n";
+    return 1;
 }
 
 } // namespace ZephraneCli

@@ -2,15 +2,15 @@
 
 namespace ZephraneCli {
 
-int runJunk(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
-int runSize(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
-int runGuard(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
-int runTree(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
+int runJunk(const std::vector<std::string>& words, const Streams& streams);
+int runSize(const std::vector<std::string>& words, const Streams& streams);
+int runGuard(const std::vector<std::string>& words, const Streams& streams);
+int runTree(const std::vector<std::string>& words, const Streams& streams);
 
 // Each verb lives in a file of its own (<Name>Verb.cpp) and is listed here once.
 const std::vector<Verb>& verbs() {
     static const std::vector<Verb> all{
-        {"size", "size PATH... [--json]", "allocated bytes on disk of each path, folders with all they hold",
+        {"size", "size PATH... [--json]", "allocated bytes on disk of each path, folders with all they hold (see below)",
          runSize},
         {"guard", "guard PATH...", "whether removal would be allowed for each path, and what it would act on",
          runGuard},

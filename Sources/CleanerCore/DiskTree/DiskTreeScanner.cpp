@@ -4,6 +4,8 @@
 #include "CleanerCore/Files/DirectoryWalker.hpp"
 #include "CleanerCore/Platform/BulkListing.hpp"
 #include "CleanerCore/Platform/FileDescriptor.hpp"
+#include "CleanerCore/Platform/FolderIdentity.hpp"
+#include "CleanerCore/Platform/SharedFolder.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
 
 #include <tbb/concurrent_unordered_map.h>
@@ -12,6 +14,7 @@
 #include <tbb/task_group.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <atomic>
 #include <chrono>
 #include <fcntl.h>
@@ -43,17 +46,18 @@ std::uint64_t uptimeNanoseconds() {
                                           .count());
 }
 
-// The cheap half of the package test, so that the path is only built for names that can be one.
-bool hasExtension(std::string_view name) {
-    const std::size_t dot = name.rfind('.');
-    return dot != std::string_view::npos && dot != 0 && dot + 1 < name.size();
-}
-
 std::string childPath(std::string_view folder, std::string_view name) {
     std::string out;
     out.reserve(folder.size() + 1 + name.size());
     DiskNode::appendChild(out, folder, name);
     return out;
+}
+
+// `path` + "/" + `name`, in place.
+void descend(std::string& path, std::string_view name) {
+    if (!path.ends_with('/'))
+        path.push_back('/');
+    path.append(name);
 }
 
 struct NameRef {
@@ -143,66 +147,96 @@ private:
 
 class DiskTreeScanner::Walk {
 public:
-    Walk(const DiskTreeScanner& scanner, Counter& counter, std::uint64_t device, std::stop_token stop)
-        : scanner(scanner), counter(counter), device(device), stop(std::move(stop)) {}
+    Walk(const DiskTreeScanner& scanner, Counter& counter, std::uint64_t device, std::stop_token stop,
+         UnreadableFolders* unreadable)
+        : scanner(scanner), counter(counter), device(device), stop(std::move(stop)), unreadable(unreadable) {}
 
     // Lists `fd` and, while fan-out is allowed, measures its subfolders and packages in a task group.
     DiskNode::Pointer scanFolder(FileDescriptor fd, std::string path, int depth) {
         if (!fansOut(path))
             return scanFolderSync(fd.get(), std::move(path));
         Listing listing = list(fd.get(), path);
-        fd.reset(); // closed before the group starts, so descriptors don't pile up with the fan-out
         const std::size_t folderCount = listing.folders.size();
-        std::vector<std::optional<Child>> results(folderCount + listing.packages.size());
+        const std::size_t opens = folderCount + listing.packages.size();
+        if (opens == 0)
+            return folderNode(path, listing);
+        // Every subfolder is opened by name from this folder's descriptor, closed once they all are.
+        Platform::SharedFolder folder(std::move(fd), opens);
+        std::vector<std::optional<Child>> results(opens);
         tbb::task_group group;
         for (std::size_t i = 0; i < folderCount; ++i)
             group.run([&, i] {
-                results[i] = folderTask(childPath(path, listing.view(listing.folders[i])), depth + 1);
+                const NameRef name = listing.folders[i];
+                results[i] = folderTask(folder, listing.cString(name), childPath(path, listing.view(name)),
+                                        depth + 1);
             });
         for (std::size_t i = 0; i < listing.packages.size(); ++i)
             group.run([&, i] {
-                if (stop.stop_requested())
-                    return;
                 const NameRef name = listing.packages[i];
-                const std::int64_t size =
-                    DirectoryWalker::allocatedSize(childPath(path, listing.view(name)), true, 0, stop);
+                if (stop.stop_requested())
+                    return folder.opened();
+                FileDescriptor package(Platform::openDirectory(folder.fd(), listing.cString(name)));
+                const int error = errno;
+                folder.opened();
+                std::int64_t size = 0;
+                if (package)
+                    size = DirectoryWalker::allocatedSize(std::move(package), childPath(path, listing.view(name)),
+                                                          true, 0, stop, unreadable);
+                else
+                    UnreadableFolders::failed(unreadable, error);
                 results[folderCount + i] = Child{nullptr, size, name, true};
             });
         group.wait();
         for (std::optional<Child>& result : results)
             if (result)
                 listing.children.push_back(std::move(*result));
-        return folderNode(std::move(path), listing);
+        return folderNode(path, listing);
     }
 
     // The subtree of the open folder `fd` (not closed here), one folder after another with a stack
-    // of its own, so no depth can exhaust the thread's stack.
+    // of its own, so no depth can exhaust the thread's stack. The top of the stack is always open;
+    // below the first `heldDescriptors` levels, a level gives its descriptor back while its
+    // subfolders are walked and gets it again through their "..", checked to be the same folder.
     DiskNode::Pointer scanFolderSync(int fd, std::string path) {
         Descent descent;
-        enter(descent, fd, false, std::move(path));
+        descent.path = std::move(path);
+        enter(descent, fd, false);
         for (;;) {
             Level& top = descent.stack.back();
             if (top.next < top.listing.folders.size() && !stop.stop_requested()) {
                 const NameRef name = top.listing.folders[top.next++];
-                std::string below = childPath(top.path, top.listing.view(name));
-                const int parentFd = descriptor(descent);
-                const int childFd =
-                    parentFd < 0 ? -1 : Platform::openDirectory(parentFd, top.listing.cString(name));
-                if (top.next == top.listing.folders.size())
-                    release(descent, top); // nothing more to open below it
-                if (childFd < 0)
-                    top.listing.children.push_back(asChild(emptyFolder(std::move(below))));
-                else
-                    enter(descent, childFd, true, std::move(below));
+                const int childFd = Platform::openDirectory(top.fd, top.listing.cString(name));
+                const int error = errno;
+                descend(descent.path, top.listing.view(name));
+                if (childFd < 0) {
+                    UnreadableFolders::failed(unreadable, error);
+                    top.listing.children.push_back(asChild(emptyFolder(descent.path)));
+                    descent.path.resize(top.pathLength);
+                    continue;
+                }
+                if (top.owned && descent.stack.size() > heldDescriptors &&
+                    Platform::FolderIdentity::of(top.fd, top.identity)) {
+                    Platform::SystemCalls::current().close(top.fd);
+                    top.fd = -1;
+                }
+                enter(descent, childFd, true);
                 continue;
             }
             Level done = std::move(top);
             descent.stack.pop_back();
-            release(descent, done);
-            DiskNode::Pointer node = folderNode(std::move(done.path), done.listing);
+            DiskNode::Pointer node = folderNode(descent.path, done.listing);
             if (descent.stack.empty())
                 return node;
-            descent.stack.back().listing.children.push_back(asChild(std::move(node)));
+            Level& parent = descent.stack.back();
+            descent.path.resize(parent.pathLength);
+            if (parent.fd < 0 && !stop.stop_requested()) {
+                parent.fd = Platform::reopenParent(done.fd, parent.identity);
+                if (parent.fd < 0) // moved or swapped meanwhile: what it still held can't be reached
+                    abandon(descent, parent);
+            }
+            if (done.fd >= 0)
+                Platform::SystemCalls::current().close(done.fd);
+            parent.listing.children.push_back(asChild(std::move(node)));
         }
     }
 
@@ -213,16 +247,19 @@ public:
 
 private:
     struct Level {
-        std::string path;
-        int fd = -1; // -1 once released, or while parked to bound the open descriptors
+        int fd = -1; // -1 while parked, to bound the open descriptors
         bool owned = true;
+        std::size_t pathLength = 0; // this level's path is the descent's path up to here
         Listing listing;
-        std::size_t next = 0; // the next of listing.folders to descend into
+        std::size_t next = 0;              // the next of listing.folders to descend into
+        Platform::FolderIdentity identity; // known once parked
     };
 
+    // One path for the whole stack, grown and cut back as the walk goes down and up, so that a deep
+    // chain does not hold one full path per level.
     struct Descent {
+        std::string path;
         std::vector<Level> stack;
-        std::size_t held = 0; // descriptors of owned levels that are open
     };
 
     static Child asChild(DiskNode::Pointer node) {
@@ -234,12 +271,19 @@ private:
         return !stop.stop_requested() && !DirectoryWalker::isInContainers(path);
     }
 
-    std::optional<Child> folderTask(std::string path, int depth) {
-        if (stop.stop_requested())
+    std::optional<Child> folderTask(Platform::SharedFolder& parent, const char* name, std::string path,
+                                    int depth) {
+        if (stop.stop_requested()) {
+            parent.opened();
             return std::nullopt;
-        FileDescriptor fd(Platform::openDirectory(AT_FDCWD, path.c_str()));
-        if (!fd)
-            return asChild(emptyFolder(std::move(path)));
+        }
+        FileDescriptor fd(Platform::openDirectory(parent.fd(), name));
+        const int error = errno;
+        parent.opened();
+        if (!fd) {
+            UnreadableFolders::failed(unreadable, error);
+            return asChild(emptyFolder(path));
+        }
         if (depth < fanOutDepth && fansOut(path))
             return asChild(scanFolder(std::move(fd), std::move(path), depth));
         return asChild(scanFolderSync(fd.get(), std::move(path)));
@@ -249,7 +293,7 @@ private:
         Listing listing;
         std::int64_t count = 0;
         std::size_t foldAt = prefoldAt;
-        Platform::listDirectory(fd, [&](const ListedEntry& entry) {
+        const bool whole = Platform::listDirectory(fd, [&](const ListedEntry& entry) {
             if (listing.children.size() >= foldAt) {
                 prefold(listing);
                 foldAt = std::max(foldAt, 2 * listing.children.size());
@@ -267,8 +311,7 @@ private:
                 listing.children.push_back(Child{nullptr, 0, listing.keep(entry.name)});
                 return;
             case EntryKind::directory:
-                if (hasExtension(entry.name) &&
-                    DirectoryWalker::isPackage(entry.name, false, URL::file(childPath(path, entry.name)))) {
+                if (DirectoryWalker::hasPackageExtension(entry.name)) {
                     listing.packages.push_back(listing.keep(entry.name));
                 } else if (!entry.isMountRoot && entry.device == device) {
                     listing.folders.push_back(listing.keep(entry.name));
@@ -276,6 +319,8 @@ private:
                 return;
             }
         });
+        if (!whole && unreadable)
+            unreadable->add();
         counter.add(count, path);
         prefold(listing);
         return listing;
@@ -323,57 +368,28 @@ private:
         return kept;
     }
 
-    void enter(Descent& descent, int fd, bool owned, std::string path) {
-        Level level{std::move(path), fd, owned, {}, 0};
-        level.listing = list(fd, level.path);
+    void enter(Descent& descent, int fd, bool owned) {
+        Level level{fd, owned, descent.path.size(), {}, 0, {}};
+        level.listing = list(fd, descent.path);
         for (const NameRef name : level.listing.packages) {
             const FileDescriptor package(Platform::openDirectory(fd, level.listing.cString(name)));
-            const std::int64_t size = package ? DirectoryWalker::allocatedSize(package.get()) : 0;
+            if (!package)
+                UnreadableFolders::failed(unreadable, errno);
+            const std::int64_t size = package ? DirectoryWalker::allocatedSize(package.get(), unreadable) : 0;
             level.listing.children.push_back(Child{nullptr, size, name, true});
         }
         descent.stack.push_back(std::move(level));
-        if (owned && ++descent.held > heldDescriptors)
-            park(descent);
     }
 
-    static void release(Descent& descent, Level& level) {
-        if (level.fd >= 0 && level.owned) {
-            Platform::SystemCalls::current().close(level.fd);
-            --descent.held;
+    // A level that could not be got back: the subfolders it had left become empty folders.
+    void abandon(Descent& descent, Level& level) {
+        if (level.next < level.listing.folders.size() && unreadable)
+            unreadable->add();
+        for (; level.next < level.listing.folders.size(); ++level.next) {
+            descend(descent.path, level.listing.view(level.listing.folders[level.next]));
+            level.listing.children.push_back(asChild(emptyFolder(descent.path)));
+            descent.path.resize(level.pathLength);
         }
-        level.fd = -1;
-    }
-
-    // Closes the highest owned descriptor below the top of the stack.
-    static void park(Descent& descent) {
-        for (std::size_t i = 0; i + 1 < descent.stack.size(); ++i)
-            if (descent.stack[i].owned && descent.stack[i].fd >= 0)
-                return release(descent, descent.stack[i]);
-    }
-
-    // The descriptor of the top level, opened again from the nearest open level above it if it was
-    // parked. The first level belongs to the caller and is never parked.
-    static int descriptor(Descent& descent) {
-        std::vector<Level>& stack = descent.stack;
-        const std::size_t index = stack.size() - 1;
-        if (stack[index].fd >= 0)
-            return stack[index].fd;
-        std::size_t open = index;
-        while (open > 0 && stack[open].fd < 0)
-            --open;
-        int fd = stack[open].fd;
-        for (std::size_t i = open + 1; i <= index && fd >= 0; ++i) {
-            const int below = Platform::openDirectory(fd, DiskNode::lastComponent(stack[i].path).data());
-            if (i - 1 > open)
-                Platform::SystemCalls::current().close(fd);
-            fd = below;
-        }
-        if (fd >= 0) {
-            stack[index].fd = fd;
-            if (++descent.held > heldDescriptors)
-                park(descent);
-        }
-        return fd;
     }
 
     // The node of one folder: its children ordered, the small ones folded into one aggregate.
@@ -446,6 +462,7 @@ private:
     Counter& counter;
     const std::uint64_t device;
     const std::stop_token stop;
+    UnreadableFolders* const unreadable;
     tbb::concurrent_unordered_map<std::int64_t, std::string> smallNames;
 };
 
@@ -453,16 +470,18 @@ int DiskTreeScanner::walkers() {
     return static_cast<int>(std::max(8u, 2 * std::thread::hardware_concurrency()));
 }
 
-DiskNode::Pointer DiskTreeScanner::scan(const Reporting& reporting, std::stop_token stop) const {
+DiskNode::Pointer DiskTreeScanner::scan(const Reporting& reporting, std::stop_token stop,
+                                        UnreadableFolders* unreadable) const {
     const std::string path = standardizedPath(root);
     Counter counter(reporting);
-    std::uint64_t device = ~std::uint64_t{0};
-    struct statx info;
-    if (Platform::SystemCalls::current().statx(AT_FDCWD, path.c_str(), AT_STATX_DONT_SYNC, STATX_TYPE,
-                                               &info) == 0)
-        device = makedev(info.stx_dev_major, info.stx_dev_minor);
-    Walk walk(*this, counter, device, stop);
     FileDescriptor fd(Platform::openDirectory(AT_FDCWD, path.c_str()));
+    if (!fd)
+        UnreadableFolders::failed(unreadable, errno);
+    // The device of the folder opened, not of what its path may name by the time it is looked at.
+    Platform::FolderIdentity identity{~std::uint64_t{0}, 0};
+    if (fd && !Platform::FolderIdentity::of(fd.get(), identity))
+        identity.device = ~std::uint64_t{0};
+    Walk walk(*this, counter, identity.device, stop, unreadable);
     DiskNode::Pointer tree;
     if (!fd) {
         tree = walk.emptyFolder(path);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CleanerCore/DiskTree/DiskNode.hpp"
+#include "CleanerCore/Files/UnreadableFolders.hpp"
 
 #include <cstdint>
 #include <functional>
@@ -25,8 +26,12 @@ struct DiskTreeScanner {
     std::int64_t minimumNodeSize = 1000000;
     std::int64_t alwaysKeep = 12;
 
-    // Never fails: what can't be read is empty. A stopped scan returns a well-formed partial tree.
-    DiskNode::Pointer scan(const Reporting& reporting, std::stop_token stop = {}) const;
+    // Never fails: what can't be read is empty, and counted in `unreadable` when one is given. A
+    // stopped scan returns a well-formed partial tree. Below the root, every folder is opened by name
+    // from its parent's open descriptor, never through a link, so a folder swapped for a link while
+    // the scan runs can't lead it out of the tree.
+    DiskNode::Pointer scan(const Reporting& reporting, std::stop_token stop = {},
+                           UnreadableFolders* unreadable = nullptr) const;
     DiskNode::Pointer scan(const Progress& progress, std::stop_token stop = {}) const;
 
     // Threads that list folders: more than the cores, since a walk mostly waits on the disk.

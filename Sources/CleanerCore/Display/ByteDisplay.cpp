@@ -1,5 +1,7 @@
 #include "CleanerCore/Display/ByteDisplay.hpp"
 
+#include "CleanerCore/Display/ByteFormatter.hpp"
+
 #include <array>
 #include <cmath>
 #include <cstdlib>
@@ -24,11 +26,6 @@ const std::array<Unit, 6> kUnits{{{icu::MeasureUnit::getByte, 0},
                                   {icu::MeasureUnit::getGigabyte, 2},
                                   {icu::MeasureUnit::getTerabyte, 2},
                                   {icu::MeasureUnit::getPetabyte, 2}}};
-
-double roundedHalfUp(double value, int fractionDigits) {
-    const double scale = std::pow(10.0, fractionDigits);
-    return std::floor(value * scale + 0.5) / scale;
-}
 
 std::string utf8(const icu::UnicodeString& text) {
     std::string out;
@@ -97,17 +94,9 @@ ByteDisplay::ByteDisplay(std::int64_t byteCount, std::string localeIdentifier)
         symbols.getConstSymbol(icu::DecimalFormatSymbols::kGroupingSeparatorSymbol);
     decimalSeparator = utf8(decimal);
 
-    // The largest unit whose rounded value stays below 1,000, so 999,999 bytes read "1 MB".
-    const double magnitude = std::fabs(static_cast<double>(bytes));
-    std::size_t index = 0;
-    while (index + 1 < kUnits.size() &&
-           roundedHalfUp(magnitude / std::pow(1000.0, double(index)), kUnits[index].fractionDigits) >= 1000.0)
-        ++index;
+    const std::size_t index = ByteFormatter::unitIndex(bytes);
     const Unit& chosen = kUnits[index];
-    const double value = static_cast<double>(bytes) / std::pow(1000.0, double(index));
-    // Bytes take their full word ("500 bytes"), the larger units their symbol.
-    formatted =
-        format(icuLocale, value, chosen, index == 0 ? UNUM_UNIT_WIDTH_FULL_NAME : UNUM_UNIT_WIDTH_SHORT);
+    formatted = ByteFormatter(locale).formatted(bytes);
 
     const icu::UnicodeString text = icu::UnicodeString::fromUTF8(formatted);
     // A separator belongs to the number only when a digit follows it: French groups with the same

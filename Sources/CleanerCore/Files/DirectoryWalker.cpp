@@ -2,6 +2,8 @@
 
 #include "CleanerCore/Platform/BulkListing.hpp"
 #include "CleanerCore/Platform/FileDescriptor.hpp"
+#include "CleanerCore/Platform/FolderIdentity.hpp"
+#include "CleanerCore/Platform/SharedFolder.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
 
 #include <tbb/task_group.h>
@@ -34,34 +36,22 @@ bool isAppleDouble(std::string_view name) {
 }
 
 // Lists one folder: adds its files to `total` and appends its subfolders' names, each followed by
-// a NUL, to `names`.
-void listFolder(int fd, std::int64_t& total, std::string& names) {
-    Platform::listDirectory(fd,
-                            [&](const ListedEntry& entry) {
-                                if (isAppleDouble(entry.name))
-                                    return;
-                                if (entry.kind == EntryKind::file) {
-                                    total += entry.allocatedSize;
-                                } else if (entry.kind == EntryKind::directory) {
-                                    names.append(entry.name);
-                                    names.push_back('\0');
-                                }
-                            },
-                            {.statFolders = false});
-}
-
-struct Identity {
-    std::uint64_t device = 0, inode = 0;
-    bool operator==(const Identity&) const = default;
-};
-
-bool identify(int fd, Identity& out) {
-    struct statx info;
-    if (Platform::SystemCalls::current().statx(fd, "", AT_EMPTY_PATH | AT_STATX_DONT_SYNC, STATX_INO,
-                                               &info) != 0)
-        return false;
-    out = {(std::uint64_t{info.stx_dev_major} << 32) | info.stx_dev_minor, info.stx_ino};
-    return true;
+// a NUL, to `names`. A listing cut short counts the folder as unreadable.
+void listFolder(int fd, std::int64_t& total, std::string& names, UnreadableFolders* unreadable) {
+    const bool whole = Platform::listDirectory(fd,
+                                               [&](const ListedEntry& entry) {
+                                                   if (isAppleDouble(entry.name))
+                                                       return;
+                                                   if (entry.kind == EntryKind::file) {
+                                                       total += entry.allocatedSize;
+                                                   } else if (entry.kind == EntryKind::directory) {
+                                                       names.append(entry.name);
+                                                       names.push_back('\0');
+                                                   }
+                                               },
+                                               {.statFolders = false});
+    if (!whole && unreadable)
+        unreadable->add();
 }
 
 // One level of a sequential descent: the names of its subfolders sit in [next, end) of the shared
@@ -69,29 +59,20 @@ bool identify(int fd, Identity& out) {
 struct Level {
     int fd = -1; // -1 while parked
     std::size_t begin = 0, next = 0, end = 0;
-    Identity identity; // known once parked, to recognise the folder when it is reopened
+    Platform::FolderIdentity identity; // known once parked, to recognise the folder when it is reopened
 };
-
-// Brings a parked level back through its child's "..", provided it is still the same folder.
-int reopen(int childFd, const Identity& expected) {
-    if (childFd < 0)
-        return -1;
-    Platform::FileDescriptor parent(Platform::openDirectory(childFd, ".."));
-    Identity found;
-    if (!parent || !identify(parent.get(), found) || !(found == expected))
-        return -1;
-    return parent.release();
-}
 
 } // namespace
 
-std::int64_t allocatedSize(int directoryFd) {
+std::int64_t allocatedSize(int directoryFd, UnreadableFolders* unreadable) {
     std::int64_t total = 0;
     std::string names;
     std::vector<Level> levels;
-    listFolder(directoryFd, total, names);
+    listFolder(directoryFd, total, names, unreadable);
     levels.push_back({directoryFd, 0, 0, names.size(), {}});
 
+    // The top of the stack is always open; levels below it may be parked, and are brought back
+    // through their child's ".." when the walk climbs to them again.
     while (!levels.empty()) {
         Level& top = levels.back();
         if (top.next == top.end) {
@@ -101,9 +82,12 @@ std::int64_t allocatedSize(int directoryFd) {
             levels.pop_back();
             if (!levels.empty() && levels.back().fd < 0) {
                 Level& parent = levels.back();
-                parent.fd = reopen(finished, parent.identity);
-                if (parent.fd < 0)
-                    parent.next = parent.end; // moved or gone meanwhile: its other subfolders are lost
+                parent.fd = Platform::reopenParent(finished, parent.identity);
+                if (parent.fd < 0) { // moved or gone meanwhile: its other subfolders are lost
+                    if (parent.next != parent.end && unreadable)
+                        unreadable->add();
+                    parent.next = parent.end;
+                }
             }
             if (ours && finished >= 0)
                 Platform::SystemCalls::current().close(finished);
@@ -112,14 +96,16 @@ std::int64_t allocatedSize(int directoryFd) {
         const char* name = names.data() + top.next;
         top.next += std::strlen(name) + 1;
         const int child = Platform::openDirectory(top.fd, name);
-        if (child < 0)
+        if (child < 0) {
+            UnreadableFolders::failed(unreadable, errno);
             continue;
-        if (levels.size() > heldLevels && identify(top.fd, top.identity)) {
+        }
+        if (levels.size() > heldLevels && Platform::FolderIdentity::of(top.fd, top.identity)) {
             Platform::SystemCalls::current().close(top.fd);
             top.fd = -1;
         }
         const std::size_t begin = names.size();
-        listFolder(child, total, names);
+        listFolder(child, total, names, unreadable);
         levels.push_back({child, begin, begin, names.size(), {}});
     }
     return total;
@@ -132,36 +118,55 @@ bool isInContainers(std::string_view path) {
            path.find("/Library/Containers/") != std::string_view::npos;
 }
 
-std::int64_t allocatedSize(const std::string& path, bool fanOut, int depth, std::stop_token stop) {
+std::int64_t allocatedSize(const std::string& path, bool fanOut, int depth, std::stop_token stop,
+                           UnreadableFolders* unreadable) {
     Platform::FileDescriptor fd(Platform::openDirectory(AT_FDCWD, path.c_str()));
-    if (!fd)
+    if (!fd) {
+        UnreadableFolders::failed(unreadable, errno);
         return 0;
+    }
+    return allocatedSize(std::move(fd), path, fanOut, depth, std::move(stop), unreadable);
+}
+
+std::int64_t allocatedSize(Platform::FileDescriptor folder, std::string_view path, bool fanOut, int depth,
+                           std::stop_token stop, UnreadableFolders* unreadable) {
     if (!fanOut || depth >= fanOutDepth || isInContainers(path) || stop.stop_requested())
-        return allocatedSize(fd.get());
+        return allocatedSize(folder.get(), unreadable);
 
     std::int64_t own = 0;
     std::string names;
-    listFolder(fd.get(), own, names);
-    fd.reset();
-    if (names.empty())
+    listFolder(folder.get(), own, names, unreadable);
+    const std::size_t count = static_cast<std::size_t>(std::count(names.begin(), names.end(), '\0'));
+    if (count == 0)
         return own;
 
     std::string_view parent = path;
     if (parent.size() > 1 && parent.ends_with('/'))
         parent.remove_suffix(1);
+    Platform::SharedFolder shared(std::move(folder), count);
     std::atomic<std::int64_t> children{0};
     tbb::task_group group;
     for (std::size_t at = 0; at < names.size();) {
-        const std::string_view name(names.data() + at);
-        at += name.size() + 1;
-        std::string child;
-        child.reserve(parent.size() + 1 + name.size());
-        child.append(parent);
-        if (!parent.ends_with('/'))
-            child.push_back('/');
-        child.append(name);
-        group.run([&children, child = std::move(child), depth, stop] {
-            children.fetch_add(allocatedSize(child, true, depth + 1, stop), std::memory_order_relaxed);
+        const char* name = names.data() + at;
+        const std::size_t length = std::strlen(name);
+        at += length + 1;
+        group.run([&children, &shared, name, length, parent, depth, stop, unreadable] {
+            Platform::FileDescriptor child(Platform::openDirectory(shared.fd(), name));
+            const int error = errno;
+            shared.opened();
+            if (!child) {
+                UnreadableFolders::failed(unreadable, error);
+                return;
+            }
+            // The path only decides the route (containers are walked sequentially); it is never opened.
+            std::string below;
+            below.reserve(parent.size() + 1 + length);
+            below.append(parent);
+            if (!parent.ends_with('/'))
+                below.push_back('/');
+            below.append(name, length);
+            children.fetch_add(allocatedSize(std::move(child), below, true, depth + 1, stop, unreadable),
+                               std::memory_order_relaxed);
         });
     }
     group.wait();
@@ -200,13 +205,17 @@ bool isPackageExtension(std::string_view extension) {
 
 } // namespace
 
+bool hasPackageExtension(std::string_view name) {
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string_view::npos || dot == 0 || dot + 1 == name.size())
+        return false;
+    return isPackageExtension(name.substr(dot + 1));
+}
+
 bool isPackage(std::string_view folderNamed, bool hasBundleBit, const URL& at) {
     if (hasBundleBit)
         return true;
-    const std::size_t dot = folderNamed.rfind('.');
-    if (dot == std::string_view::npos || dot == 0 || dot + 1 == folderNamed.size())
-        return false;
-    if (!isPackageExtension(folderNamed.substr(dot + 1)))
+    if (!hasPackageExtension(folderNamed))
         return false;
     struct stat info {};
     return Platform::SystemCalls::current().fstatat(AT_FDCWD, at.path().c_str(), &info,

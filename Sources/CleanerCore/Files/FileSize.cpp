@@ -7,6 +7,7 @@
 
 #include <tbb/task_group.h>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
@@ -20,27 +21,43 @@ std::int64_t blocksInBytes(const struct stat& info) {
     return static_cast<std::int64_t>(info.st_blocks) * 512;
 }
 
-std::int64_t measure(const std::string& path, Measure how, std::stop_token stop) {
+Measurement measure(const std::string& written, Measure how, std::stop_token stop) {
+    Measurement out;
+    // "link/" would make the kernel look at the link's target; the link itself is what is asked about.
+    const std::string path = standardizedPath(written);
     struct stat info {};
-    if (Platform::SystemCalls::current().fstatat(AT_FDCWD, path.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0)
-        return 0;
+    if (Platform::SystemCalls::current().fstatat(AT_FDCWD, path.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0) {
+        out.error = errno;
+        return out;
+    }
     if (S_ISREG(info.st_mode))
-        return blocksInBytes(info);
+        out.bytes = blocksInBytes(info);
     if (!S_ISDIR(info.st_mode))
-        return 0;
-    if (how == Measure::parallel)
-        return DirectoryWalker::allocatedSize(path, true, 0, std::move(stop));
-    const Platform::FileDescriptor fd(Platform::openDirectory(AT_FDCWD, path.c_str()));
-    return fd ? DirectoryWalker::allocatedSize(fd.get()) : 0;
+        return out;
+    Platform::FileDescriptor fd(Platform::openDirectory(AT_FDCWD, path.c_str()));
+    if (!fd) {
+        out.error = errno;
+        return out;
+    }
+    UnreadableFolders unreadable;
+    out.bytes = how == Measure::parallel
+                    ? DirectoryWalker::allocatedSize(std::move(fd), path, true, 0, std::move(stop), &unreadable)
+                    : DirectoryWalker::allocatedSize(fd.get(), &unreadable);
+    out.unreadableFolders = unreadable.total();
+    return out;
 }
 
 } // namespace
 
 std::int64_t allocatedSize(const URL& url) {
-    return measure(url.path(), Measure::sequential, {});
+    return measure(url.path(), Measure::sequential, {}).bytes;
 }
 
 std::int64_t parallelAllocatedSize(const URL& url, std::stop_token stop) {
+    return measure(url.path(), Measure::parallel, std::move(stop)).bytes;
+}
+
+Measurement measure(const URL& url, std::stop_token stop) {
     return measure(url.path(), Measure::parallel, std::move(stop));
 }
 
@@ -72,7 +89,7 @@ std::int64_t referenceAllocatedSize(const URL& url) {
         struct stat info {};
         return ::lstat(file.c_str(), &info) == 0 && S_ISREG(info.st_mode) ? blocksInBytes(info) : 0;
     };
-    const std::string path = url.path();
+    const std::string path = standardizedPath(url.path());
     std::error_code error;
     const fs::file_status top = fs::symlink_status(path, error);
     if (error || !fs::is_directory(top))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CleanerCore/Files/URL.hpp"
+#include "CleanerCore/Files/UnreadableFolders.hpp"
 
 #include <cstdint>
 #include <stop_token>
@@ -9,8 +10,23 @@
 
 // On-disk sizes of paths: allocated blocks, never logical lengths. A link or a special file measures
 // 0 wherever it stands, a regular file its own blocks (a sparse file what it occupies), a folder the
-// total of DirectoryWalker; what can't be read measures 0.
+// total of DirectoryWalker; what can't be read measures 0. A link is a link however the path is
+// written: "link/" and "link/." measure the link, not what it points to.
 namespace CleanerCore::FileSize {
+
+// One path measured, with what kept the answer from being whole.
+struct Measurement {
+    std::int64_t bytes = 0;
+    // errno when the path itself could not be examined or, being a folder, opened; 0 otherwise.
+    int error = 0;
+    // Folders below it that could not be opened or read to the end.
+    std::int64_t unreadableFolders = 0;
+
+    bool operator==(const Measurement&) const = default;
+};
+
+// As parallelAllocatedSize, telling what could not be read.
+Measurement measure(const URL& url, std::stop_token stop = {});
 
 // Sequential.
 std::int64_t allocatedSize(const URL& url);

@@ -8,6 +8,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
+#include <string>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 
@@ -146,8 +147,31 @@ bool list(int directoryFd, void* context, Visit visit, ListingOptions options) {
 
 } // namespace BulkListingDetail
 
+std::string_view withoutTrailingSeparators(std::string_view path) {
+    for (;;) {
+        if (path.size() > 1 && path.ends_with('/'))
+            path.remove_suffix(1);
+        else if (path == ".")
+            return path;
+        else if (path.ends_with("/.") && path.size() > 2)
+            path.remove_suffix(2);
+        else if (path == "/.")
+            return "/";
+        else
+            return path;
+    }
+}
+
 int openDirectory(int parentFd, const char* name) {
     SystemCalls& calls = SystemCalls::current();
+    std::string top;
+    if (parentFd == AT_FDCWD) {
+        top = withoutTrailingSeparators(name);
+        name = top.c_str();
+    } else if (std::strchr(name, '/') != nullptr) {
+        errno = EINVAL;
+        return -1;
+    }
     int fd;
     do
         fd = calls.openat(parentFd, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);

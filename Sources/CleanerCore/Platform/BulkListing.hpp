@@ -53,8 +53,16 @@ bool listDirectory(int directoryFd, Visitor&& visit, ListingOptions options = {}
         [](void* context, const ListedEntry& entry) { (*static_cast<Plain*>(context))(entry); }, options);
 }
 
-// Opens the folder `name` relative to `parentFd` (or AT_FDCWD) read-only, never through a link:
-// a link to a folder fails with ELOOP or ENOTDIR. Returns the descriptor, or -1 with errno set.
+// Opens a folder read-only, never through a link: a link to a folder fails with ELOOP or ENOTDIR.
+// Below an open folder `parentFd`, `name` must be one component (a name holding "/" fails with
+// EINVAL): walks go down one level at a time, so a folder swapped for a link on the way can't
+// lead them elsewhere. With AT_FDCWD, `name` is the path at the top of a walk; trailing "/" and
+// "." are dropped first, since "link/" would make the kernel follow the link. Returns the
+// descriptor, or -1 with errno set.
 int openDirectory(int parentFd, const char* name);
+
+// `path` less any trailing "/" and "/." ("/" stays "/"): the spelling under which the last
+// component is the item itself, not what a link there points to.
+std::string_view withoutTrailingSeparators(std::string_view path);
 
 } // namespace CleanerCore::Platform

@@ -55,3 +55,16 @@ TEST(JunkVerb, ReportsEveryRuleOfTheHomeAsTextOrJson) {
 
     EXPECT_EQ(ZephraneCli::run({"junk", "/tmp"}, text, err), 2);
 }
+
+TEST(JunkVerb, AHomeThatIsNoFolderIsSaidPlainly) {
+    TestSupport::TempTree tree;
+    for (const char* home : {"missing", "file"}) {
+        tree.file("file", 10);
+        const ScopedHome scoped(tree.path(home));
+        std::ostringstream out, err;
+        EXPECT_EQ(ZephraneCli::run({"junk"}, out, err), 1) << home;
+        EXPECT_TRUE(out.str().empty());
+        EXPECT_NE(err.str().find("HOME"), std::string::npos) << err.str();
+        EXPECT_EQ(err.str().find('\n'), err.str().size() - 1);
+    }
+}

@@ -225,3 +225,30 @@ TEST(DiskTreeAgreement, DeepLevelsWithSiblingsKeepFewDescriptorsOpen) {
     EXPECT_LE(calls.openPeak, 48);
     EXPECT_EQ(calls.openNow, 0);
 }
+
+// Below the fan-out, branches sixty levels deep with folders left to visit at most levels,
+// whichever place the deep folder takes in its level's listing: levels that gave their descriptor
+// back must be found again, and every folder they still held must be counted.
+TEST(DiskTreeAgreement, DeepBranchesWithFoldersLeftAtEveryLevel) {
+    const std::vector<std::string> stems{"k", "Zed", "alpha", "m-", "0", "\xc3\xa9t\xc3\xa9", "Q q"};
+    for (unsigned seed = 1; seed <= 2; ++seed) {
+        std::mt19937 random(seed);
+        int serial = 0;
+        const auto name = [&] { return stems[random() % stems.size()] + std::to_string(serial++); };
+        TempTree tree;
+        std::string top;
+        for (int level = 0; level < 6; ++level) // the fanned-out levels
+            top += name() + "/";
+        for (int branch = 0; branch < 2; ++branch) {
+            std::string path = top + name() + "/";
+            for (int level = 0; level < 64; ++level) {
+                for (int sibling = 0, siblings = 2 + static_cast<int>(random() % 3); sibling < siblings; ++sibling)
+                    tree.file(path + name() + "/f", 1 + random() % 20'000);
+                path += name() + "/";
+            }
+            tree.file(path + "end", 5000);
+        }
+        for (const Fold fold : {noFold, Fold{2, 8192}})
+            EXPECT_EQ(compare(tree.root(), fold), "") << "seed " << seed << ", keep " << fold.alwaysKeep;
+    }
+}

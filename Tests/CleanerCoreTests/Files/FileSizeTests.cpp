@@ -89,6 +89,9 @@ TEST(FileSize, FastRoutesAgreeWithTheReferenceOnRandomTrees) {
             refused == tree.root() ? 0 : expected - FileSize::referenceAllocatedSize(URL::file(refused));
         EXPECT_EQ(FileSize::allocatedSize(URL::file(tree.root())), rest);
         EXPECT_EQ(FileSize::parallelAllocatedSize(URL::file(tree.root())), rest);
+        const bool top = refused == tree.root();
+        EXPECT_EQ(FileSize::measure(URL::file(tree.root())),
+                  (FileSize::Measurement{rest, top ? EACCES : 0, top ? 0 : 1}));
         EXPECT_EQ(calls.openNow, 0);
     }
 }
@@ -104,6 +107,11 @@ TEST(FileSize, CountsAllocatedBlocksOncePerNameAndNothingForLinks) {
     tree.file("big/data", 1 << 20);
     EXPECT_EQ(FileSize::allocatedSize(URL::file(tree.symlink("box/link", tree.path("big")))), 0);
     EXPECT_EQ(FileSize::parallelAllocatedSize(URL::file(tree.symlink("top", tree.path("big")))), 0);
+    for (const char* written : {"top/", "top//", "top/.", "box/link/"}) { // a link however it is written
+        EXPECT_EQ(FileSize::allocatedSize(URL::file(tree.path("").string() + written)), 0) << written;
+        EXPECT_EQ(FileSize::measure(URL::file(tree.path("").string() + written)), FileSize::Measurement{})
+            << written;
+    }
     EXPECT_EQ(FileSize::parallelAllocatedSize(URL::file(tree.path("box"))), 2 * block);
 
     const fs::path companion = tree.file("box/._small", 5000);
