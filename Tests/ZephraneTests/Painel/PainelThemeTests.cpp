@@ -66,14 +66,6 @@ TEST(PainelTheme, EveryThemeFollowsTheAccentOfThePreferences) {
     preferences.setAccent(PainelAccent::orange);
 }
 
-TEST(PainelTheme, NothingLastsUnderReducedMotion) {
-    PainelTheme theme;
-    theme.setReducedMotion(false);
-    EXPECT_EQ(theme.duration(350), 350);
-    theme.setReducedMotion(true);
-    EXPECT_EQ(theme.duration(350), 0);
-}
-
 TEST(PainelDesktopSettings, ReadsTheDesktopsMotionAndContrastKeys) {
     const QString gnome = "org.gnome.desktop.interface";
     const QString a11y = "org.gnome.desktop.a11y.interface";

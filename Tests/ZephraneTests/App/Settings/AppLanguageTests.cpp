@@ -79,16 +79,6 @@ TEST(LanguageResolution, PortugueseIsTheFallbackNotEnglish) {
     EXPECT_EQ(resolvedLocalization(AppLanguage::portuguese, {"en-US"}), "pt-BR");
 }
 
-TEST(LanguageRawValues, RoundTripInOrder) {
-    std::vector<QString> raws;
-    for (AppLanguage language : AppLanguages::allCases) {
-        raws.push_back(AppLanguages::rawValue(language));
-        EXPECT_EQ(AppLanguages::fromRaw(raws.back()), language);
-    }
-    EXPECT_EQ(raws, (std::vector<QString>{"system", "pt-BR", "en"}));
-    EXPECT_EQ(AppLanguages::fromRaw("pt_BR"), std::nullopt);
-}
-
 TEST_F(Language, TheNoticeFollowsTheLanguageOfTheLaunch) {
     // Launched in English on a Portuguese desktop: Portuguese needs a restart, English again doesn't.
     store(QStringList{"en"});

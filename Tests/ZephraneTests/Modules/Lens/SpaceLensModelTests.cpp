@@ -298,15 +298,10 @@ TEST(SpaceLensRows, RowsFollowTheFocusMarksAndHighlight) {
     EXPECT_FALSE(nav.hovered());
 }
 
-TEST(SpaceLensTexts, NamesAndShares) {
+TEST(SpaceLensTexts, TheHomeFolderAndTheRootHaveNamesOfTheirOwn) {
     EXPECT_EQ(LensText::displayName(URL::file(QDir::homePath().toStdString() + "/")), "Home");
     EXPECT_EQ(LensText::displayName(url("/")), "/");
     EXPECT_EQ(LensText::displayName(url("/a/b c")), "b c");
-    const QLocale english(QLocale::English);
-    EXPECT_EQ(LensText::share(1, 10'000'000'000, english), "<1%");
-    EXPECT_EQ(LensText::share(0, 10, english), "0%");
-    EXPECT_EQ(LensText::share(5, 0, english), "0%");
-    EXPECT_EQ(LensText::share(1, 2, QLocale(QLocale::Portuguese, QLocale::Brazil)), "50%");
 }
 
 TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {

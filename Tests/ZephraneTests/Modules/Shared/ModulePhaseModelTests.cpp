@@ -47,27 +47,6 @@ protected:
 
 } // namespace
 
-TEST(PainelPhases, ReadyIsSplitByItemsAndConfirmationOtherPhasesMapOneToOne) {
-    for (bool items : {false, true})
-        for (bool confirming : {false, true}) {
-            EXPECT_EQ(PainelPhases::from(ModulePhase::idle, items, confirming), PainelPhase::idle);
-            EXPECT_EQ(PainelPhases::from(ModulePhase::scanning, items, confirming), PainelPhase::scanning);
-            EXPECT_EQ(PainelPhases::from(ModulePhase::cleaning, items, confirming), PainelPhase::cleaning);
-            EXPECT_EQ(PainelPhases::from(ModulePhase::done, items, confirming), PainelPhase::success);
-        }
-    EXPECT_EQ(PainelPhases::from(ModulePhase::ready, false, false), PainelPhase::empty);
-    EXPECT_EQ(PainelPhases::from(ModulePhase::ready, false, true), PainelPhase::empty);
-    EXPECT_EQ(PainelPhases::from(ModulePhase::ready, true, false), PainelPhase::results);
-    EXPECT_EQ(PainelPhases::from(ModulePhase::ready, true, true), PainelPhase::confirm);
-}
-
-TEST(CleanDestinations, MapToRemovalModesAndReadTrashWhenUnsetOrUnknown) {
-    EXPECT_EQ(CleanDestinations::removalMode(CleanDestination::trash), RemovalMode::trash);
-    EXPECT_EQ(CleanDestinations::removalMode(CleanDestination::deleteForGood), RemovalMode::permanent);
-    EXPECT_EQ(CleanDestinations::from(RemovalMode::permanent), CleanDestination::deleteForGood);
-    EXPECT_EQ(CleanDestinations::from(RemovalMode::trash), CleanDestination::trash);
-}
-
 TEST_F(ModulePhaseLife, TheDestinationIsThePreferencesOwnAndEveryChannelSeesAChangeAtOnce) {
     preferences.setCleanDestination(CleanDestination::trash);
     FakeChannelModel other(preferences);
