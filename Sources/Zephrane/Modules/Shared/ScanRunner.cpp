@@ -9,6 +9,8 @@
 struct ScanRunner::Run {
     std::stop_source stop;
     std::vector<ScanUnit> units;
+    std::vector<std::size_t> firstTile; // of each unit
+    std::size_t unit = 0;               // the unit under way
     int countBefore = 0; // items of the finished units
     std::shared_ptr<ScanFeed> feed = std::make_shared<ScanFeed>();
 };
@@ -27,8 +29,13 @@ void ScanRunner::start(std::vector<ScanUnit> units) {
     run = std::make_shared<Run>();
     run->units = std::move(units);
     current = ScanProgress{};
-    for (const ScanUnit& unit : run->units)
-        current.steps.push_back({unit.id, unit.title, ScanStep::State::waiting(), std::nullopt});
+    for (const ScanUnit& unit : run->units) {
+        run->firstTile.push_back(current.steps.size());
+        if (unit.tiles.empty())
+            current.steps.push_back({unit.id, unit.title, ScanStep::State::waiting(), std::nullopt});
+        for (const ScanUnit::Tile& tile : unit.tiles)
+            current.steps.push_back({tile.id, tile.title, ScanStep::State::waiting(), std::nullopt});
+    }
     current.startedAt = QDateTime::currentDateTime();
     emit progressChanged();
     feedTimer.start();
@@ -51,7 +58,9 @@ void ScanRunner::runUnit(std::size_t index) {
         return;
     }
     const ScanUnit& unit = run->units[index];
-    current.steps[index].state = ScanStep::State::scanning();
+    run->unit = index;
+    if (unit.tiles.empty())
+        current.steps[run->firstTile[index]].state = ScanStep::State::scanning();
     current.currentPath = unit.path;
     run->feed->reset();
     emit progressChanged();
@@ -61,13 +70,17 @@ void ScanRunner::runUnit(std::size_t index) {
     };
     whenDone(this, QtConcurrent::run(QThreadPool::globalInstance(), std::move(work)),
              [this, index](ScanUnitResult result) {
-                 ScanStep& step = current.steps[index];
-                 step.state = ScanStep::State::done(result.bytes);
-                 step.doneText = result.doneText;
+                 if (run->units[index].tiles.empty()) {
+                     ScanStep& step = current.steps[run->firstTile[index]];
+                     step.state = ScanStep::State::done(result.bytes);
+                     step.doneText = result.doneText;
+                     emit stepFinished(step.title);
+                 } else {
+                     applyTiles(run->feed->take(), true);
+                 }
                  run->countBefore += result.itemCount;
                  current.itemCount = run->countBefore;
                  emit progressChanged();
-                 emit stepFinished(step.title);
                  runUnit(index + 1);
              });
 }
@@ -78,10 +91,35 @@ void ScanRunner::pollFeed() {
     const ScanFeed::Snapshot snapshot = run->feed->take();
     const int count = run->countBefore + snapshot.found;
     const bool pathChanged = snapshot.path && snapshot.path != current.currentPath;
-    if (!pathChanged && count == current.itemCount)
+    const bool tilesChanged = !run->units[run->unit].tiles.empty() && applyTiles(snapshot, false);
+    if (!pathChanged && !tilesChanged && count == current.itemCount)
         return;
     if (pathChanged)
         current.currentPath = snapshot.path;
     current.itemCount = count;
     emit progressChanged();
+}
+
+bool ScanRunner::applyTiles(const ScanFeed::Snapshot& snapshot, bool unitDone) {
+    const std::size_t first = run->firstTile[run->unit];
+    const std::size_t count = run->units[run->unit].tiles.size();
+    bool changed = false;
+    for (std::size_t tile = 0; tile < count; ++tile) {
+        ScanStep& step = current.steps[first + tile];
+        const auto found = snapshot.tileBytes.find(static_cast<int>(tile));
+        const std::int64_t bytes = found == snapshot.tileBytes.end() ? 0 : found->second;
+        // Tiles before the one entered are done, that one runs; all are done with the unit.
+        const bool done = unitDone || static_cast<int>(tile) < snapshot.entered;
+        const ScanStep::State state = done ? ScanStep::State::done(bytes)
+                                      : static_cast<int>(tile) == snapshot.entered ? ScanStep::State::scanning()
+                                                                                   : ScanStep::State::waiting();
+        if (state == step.state)
+            continue;
+        changed = true;
+        const bool finished = state.isDone() && !step.state.isDone();
+        step.state = state;
+        if (finished)
+            emit stepFinished(step.title);
+    }
+    return changed;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Modules/Shared/ScanProgress.hpp"
+#include "Modules/Shared/ScanFeed.hpp"
 #include "Modules/Shared/ScanUnit.hpp"
 
 #include <QObject>
@@ -38,6 +39,8 @@ private:
     struct Run;
     void runUnit(std::size_t index);
     void pollFeed();
+    // Moves the tiles of a unit that has several; answers whether any changed.
+    bool applyTiles(const ScanFeed::Snapshot& snapshot, bool unitDone);
 
     std::shared_ptr<Run> run;
     ScanProgress current;

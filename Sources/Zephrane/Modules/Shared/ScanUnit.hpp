@@ -25,6 +25,13 @@ struct ScanUnit {
     QString title;
     QString path; // a short form of what the unit reads, shown while it runs
     std::function<ScanUnitResult(std::stop_token stop, ScanFeed& feed)> work;
+    // A unit that is one walk over several areas shows one tile per area instead of its own, and
+    // moves through them with ScanFeed::enter and add; they are all done when the unit ends.
+    struct Tile {
+        QString id;
+        QString title;
+    };
+    std::vector<Tile> tiles;
 };
 
 // One scan of a channel: its units, in order, and how the channel takes what they found. `adopt`

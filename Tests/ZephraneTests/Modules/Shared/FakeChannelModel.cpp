@@ -18,10 +18,18 @@ ScanPlan FakeChannelModel::scanPlan() {
     ScanPlan scan;
     for (std::size_t index = 0; index < plan.size(); ++index) {
         const PlannedUnit& planned = plan[index];
+        std::vector<ScanUnit::Tile> tiles;
+        for (const auto& [id, bytes] : planned.tiles)
+            tiles.push_back({id, QStringLiteral("Tile %1").arg(id)});
         scan.units.push_back({planned.id, planned.title, QStringLiteral("~/fake/%1").arg(planned.id),
-                         [planned = planned.found, gate = gate, found, index](std::stop_token, ScanFeed& feed) {
+                         [planned = planned.found, tiles = planned.tiles, gate = gate, found, index](std::stop_token,
+                                                                                            ScanFeed& feed) {
                              if (gate)
                                  gate->wait();
+                             for (std::size_t tile = 0; tile < tiles.size(); ++tile) {
+                                 feed.enter(static_cast<int>(tile));
+                                 feed.add(static_cast<int>(tile), tiles[tile].second);
+                             }
                              ScanUnitResult result;
                              for (const CleanupCategory& category : planned) {
                                  result.itemCount += static_cast<int>(category.items.size());
@@ -30,7 +38,7 @@ ScanPlan FakeChannelModel::scanPlan() {
                              feed.found(result.itemCount);
                              (*found)[index] = planned;
                              return result;
-                         }});
+                         }, std::move(tiles)});
     }
     scan.adopt = [this, found] {
         results.clear();

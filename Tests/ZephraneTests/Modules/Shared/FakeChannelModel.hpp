@@ -25,6 +25,8 @@ public:
         QString id;
         QString title;
         std::vector<CleanupCategory> found;
+        // When set, the unit shows as these tiles, entering each in turn and finding its bytes.
+        std::vector<std::pair<QString, std::int64_t>> tiles = {};
     };
 
     std::vector<PlannedUnit> plan;

@@ -136,6 +136,19 @@ TEST_F(ModulePhaseLife, StepsRunOneAtATimeAndShowWhatIsBeingRead) {
     EXPECT_EQ(model.progress().steps[1].state, ScanStep::State::done(500));
 }
 
+TEST_F(ModulePhaseLife, OneWalkOverSeveralAreasShowsATilePerAreaEachWithWhatItFound) {
+    model.plan = {{"first", "First", {}}, {"walk", "Walk", {}, {{"docs", 300}, {"music", 0}, {"other", 20}}}};
+    QStringList finished;
+    QObject::connect(&model, &ModulePhaseModel::stepFinished, [&](const QString& title) { finished << title; });
+    ASSERT_TRUE(finishes(model.scan()));
+    ASSERT_EQ(model.progress().stepCount(), 4) << "the walk's own tile gives way to its areas";
+    EXPECT_EQ(model.progress().steps[1].id, "docs");
+    EXPECT_EQ(model.progress().steps[1].state, ScanStep::State::done(300));
+    EXPECT_EQ(model.progress().steps[3].state, ScanStep::State::done(20));
+    EXPECT_EQ(model.progress().doneCount(), 4);
+    EXPECT_EQ(finished, (QStringList{"First", "Tile docs", "Tile music", "Tile other"}));
+}
+
 TEST_F(ModulePhaseLife, StopInAFirstScanReturnsToIdleWithNothingShown) {
     planTwoCategories();
     model.gate = std::make_shared<FakeChannelModel::Gate>();
