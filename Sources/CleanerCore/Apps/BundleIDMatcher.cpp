@@ -4,6 +4,7 @@
 #include <array>
 
 #include <unicode/locid.h>
+#include <unicode/utf8.h>
 #include <unicode/unistr.h>
 
 namespace CleanerCore::BundleIDMatcher {
@@ -33,10 +34,24 @@ std::string asciiLowercased(std::string_view text) {
     return out;
 }
 
+bool isValidUTF8(std::string_view text) {
+    const auto* bytes = reinterpret_cast<const uint8_t*>(text.data());
+    const auto length = static_cast<int32_t>(text.size());
+    for (int32_t i = 0; i < length;) {
+        UChar32 c = 0;
+        U8_NEXT(bytes, i, length, c);
+        if (c < 0)
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 std::string lowercased(std::string_view text) {
-    if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
+    // A name that is not UTF-8 keeps its other bytes as they are, so it still names its file.
+    if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; }) ||
+        !isValidUTF8(text))
         return asciiLowercased(text);
     icu::UnicodeString unicode = icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
     unicode.toLower(icu::Locale::getRoot());
