@@ -124,10 +124,10 @@ std::optional<std::string> applicationIDOfUnit(std::string_view unit) {
     } else {
         return std::nullopt;
     }
-    // "gnome-org.example.App": a launcher never holds a dot, an application id in reverse DNS does.
+    // "gnome-org.example.App": the launcher is the part before the first dash that systemd did
+    // not escape, unless that part is itself an id (reverse DNS holds dots, launchers don't).
     const std::size_t dash = unit.find('-');
-    if (dash != std::string_view::npos && unit.substr(0, dash).find('.') == std::string_view::npos &&
-        unit.substr(dash + 1).find('.') != std::string_view::npos)
+    if (dash != std::string_view::npos && unit.substr(0, dash).find('.') == std::string_view::npos)
         unit.remove_prefix(dash + 1);
     if (unit.empty())
         return std::nullopt;
