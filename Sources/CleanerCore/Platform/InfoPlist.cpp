@@ -5,9 +5,6 @@
 #include <plist/plist.h>
 
 #include <cstdint>
-#include <cstdlib>
-#include <limits>
-#include <memory>
 
 namespace CleanerCore::Platform {
 
@@ -18,40 +15,27 @@ constexpr std::size_t maximumSize = 4 << 20;
 
 } // namespace
 
-std::optional<std::string> InfoPlist::text(std::string_view key) const {
-    const auto found = texts.find(key);
-    if (found == texts.end())
+std::optional<std::string> InfoPlist::text(const std::string& key) const {
+    const plist_t node = plist_dict_get_item(root.get(), key.c_str());
+    if (node == nullptr || plist_get_node_type(node) != PLIST_STRING)
         return std::nullopt;
-    return found->second;
+    std::uint64_t length = 0;
+    const char* value = plist_get_string_ptr(node, &length);
+    if (value == nullptr)
+        return std::nullopt;
+    return std::string(value, length);
 }
 
 std::optional<InfoPlist> InfoPlist::parse(std::string_view bytes) {
     if (bytes.empty() || bytes.size() > maximumSize)
         return std::nullopt;
-    plist_t root = nullptr;
-    plist_from_memory(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &root);
-    const std::unique_ptr<void, decltype(&plist_free)> owner(root, &plist_free);
-    if (root == nullptr || plist_get_node_type(root) != PLIST_DICT)
+    plist_t parsed = nullptr;
+    plist_from_memory(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &parsed);
+    std::shared_ptr<void> owner(parsed, &plist_free);
+    if (parsed == nullptr || plist_get_node_type(parsed) != PLIST_DICT)
         return std::nullopt;
-
     InfoPlist plist;
-    plist_dict_iter it = nullptr;
-    plist_dict_new_iter(root, &it);
-    for (;;) {
-        char* key = nullptr;
-        plist_t value = nullptr;
-        plist_dict_next_item(root, it, &key, &value);
-        if (key == nullptr)
-            break;
-        const std::unique_ptr<char, decltype(&std::free)> keyOwner(key, &std::free);
-        if (value == nullptr || plist_get_node_type(value) != PLIST_STRING)
-            continue;
-        std::uint64_t length = 0;
-        const char* text = plist_get_string_ptr(value, &length);
-        if (text != nullptr)
-            plist.texts.emplace(key, std::string(text, length));
-    }
-    std::free(it);
+    plist.root = std::move(owner);
     return plist;
 }
 
