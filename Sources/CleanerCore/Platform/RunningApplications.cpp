@@ -172,7 +172,9 @@ std::vector<RunningApplication> runningApplications(const std::string& procRoot)
         const auto comm = readSmallFile(base + "/comm", smallLimit);
         if (!comm)
             continue; // the process ended meanwhile
-        Process process{{std::stoi(pid), *comm, linkTarget(base + "/exe").value_or(""), {}, {}, {}, false},
+        int number = 0;
+        std::from_chars(pid.data(), pid.data() + pid.size(), number);
+        Process process{{number, *comm, linkTarget(base + "/exe").value_or(""), {}, {}, {}, false},
                         parentOf(readSmallFile(base + "/status", smallLimit).value_or(""))};
         RunningApplication& app = process.app;
         if (!app.name.empty() && app.name.back() == '\n')

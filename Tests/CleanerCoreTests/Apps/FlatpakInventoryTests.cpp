@@ -156,3 +156,23 @@ TEST(FlatpakInventory, WhatAnUninstallLeavesInVarAppIsAnOrphanGroupedWithItsOthe
                                                      home.path(".config/io.leftbehind.Gone.conf").string()));
     EXPECT_EQ(groups[0].items[0].url.path(), home.path(".var/app/io.leftbehind.Gone").string());
 }
+
+TEST(FlatpakInventory, AnUpdatedAppShowsItsNewVersion) {
+    REQUIRE_FLATPAK(fixture);
+    fixture->exportApp({"org.zephrane.Test.Updated", "Updated", "1.0"});
+    fixture->install("org.zephrane.Test.Updated");
+    fixture->exportApp({"org.zephrane.Test.Updated", "Updated", "2.0"}); // waits in the remote
+
+    TestSupport::TempTree home;
+    const auto first = AppInventory::installedApps({}, flatpaksOf(home));
+    const InstalledApp* before = findApp(first, "org.zephrane.Test.Updated");
+    ASSERT_NE(before, nullptr);
+    EXPECT_EQ(before->version, "1.0");
+
+    fixture->update("org.zephrane.Test.Updated");
+    const auto second = AppInventory::installedApps({}, flatpaksOf(home));
+    const InstalledApp* after = findApp(second, "org.zephrane.Test.Updated");
+    ASSERT_NE(after, nullptr);
+    EXPECT_EQ(after->version, "2.0");
+    EXPECT_NE(after->url, before->url) << "each commit is deployed in a folder of its own";
+}
