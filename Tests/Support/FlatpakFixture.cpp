@@ -20,7 +20,7 @@ void writeFile(const fs::path& path, const std::string& text) {
     std::ofstream(path, std::ios::binary | std::ios::trunc) << text;
 }
 
-std::string appStream(const FlatpakAppSpec& app) {
+std::string appStream(const FlatpakFixtureApp& app) {
     std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<components version=\"0.8\" origin=\"flatpak\">\n"
                       "  <component type=\"desktop-application\">\n    <id>" +
                       app.id + "</id>\n";
@@ -144,7 +144,7 @@ FlatpakFixture::FlatpakFixture(fs::path folder) : root(std::move(folder)), repo(
     }
 }
 
-void FlatpakFixture::exportApp(const FlatpakAppSpec& app) {
+void FlatpakFixture::exportApp(const FlatpakFixtureApp& app) {
     const fs::path build = root / ("build-" + std::to_string(++builds));
     mustRun({"flatpak", "build-init", "--arch=x86_64", build.string(), app.id, runtimeID, runtimeID, "1"});
     writeFile(build / "files/bin/hello", "#!/bin/sh\necho hello\n");

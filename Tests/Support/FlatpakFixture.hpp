@@ -8,7 +8,7 @@
 namespace TestSupport {
 
 // One app to put in the fixture repository.
-struct FlatpakAppSpec {
+struct FlatpakFixtureApp {
     std::string id;                     // "org.zephrane.Test.Hello"
     std::optional<std::string> name;    // AppStream <name>; with neither, no AppStream file at all
     std::optional<std::string> version; // AppStream <release version=...>
@@ -36,7 +36,7 @@ public:
 
     // Builds `app` and exports it to the repository (a new commit each time), then refreshes the
     // repository's summary and AppStream branch. Throws std::runtime_error with flatpak's output.
-    void exportApp(const FlatpakAppSpec& app);
+    void exportApp(const FlatpakFixtureApp& app);
     // flatpak install / update / uninstall of an exported app. Same errors.
     void install(const std::string& id, Scope scope = Scope::user, const std::string& branch = "stable");
     void update(const std::string& id, Scope scope = Scope::user);

@@ -12,7 +12,7 @@ namespace CleanerCore::Platform {
 namespace {
 
 constexpr std::string_view suffix = ".desktop";
-constexpr int maximumDepth = 3; // the specification allows subfolders; nobody nests deeper
+constexpr int maximumDepth = 3; // freedesktop allows subfolders; nobody nests deeper
 
 void collect(int parentFd, const char* name, const std::string& prefix, int depth, std::vector<std::string>& ids) {
     const FileDescriptor fd(openDirectory(parentFd, name));

@@ -220,7 +220,8 @@ bool inMovedHomeTrash(std::string_view path, std::string_view parent) {
 // them may go); ~/.var/app, where Flatpaks keep their data, stays itself; and no Flatpak
 // installation is ever touched by removal, since a Flatpak is uninstalled by its installation.
 // Only the installation's "overrides" folder holds removable things: one settings file per app.
-constexpr std::array<std::string_view, 2> kAppHoldingHomeFolders{"bin", ".var/app"}; // ~/Applications, ~/.local/bin, ~/.var: above
+// (~/Applications, ~/.local/bin and ~/.var are in the tables above.)
+constexpr std::array<std::string_view, 2> kAppHoldingHomeFolders{"bin", ".var/app"};
 constexpr std::string_view kUserFlatpakInstallation = ".local/share/flatpak";
 
 const std::vector<std::string>& flatpakInstallationFolders() {
@@ -233,8 +234,10 @@ const std::vector<std::string>& flatpakInstallationFolders() {
     return folders;
 }
 
+// The installation, what it holds, and every folder above it.
 bool inFlatpakInstallation(std::string_view path, std::string_view installation) {
-    return inTree(path, installation) && !below(path, std::string(installation) + "/overrides");
+    return (inTree(path, installation) && !below(path, std::string(installation) + "/overrides")) ||
+           below(installation, path);
 }
 
 bool appPlaceProtected(std::string_view path, std::span<const std::string> homes) {

@@ -94,6 +94,9 @@ TEST(FlatpakInventory, ListsUserAndSystemAppsWithTheirAppStreamFacts) {
     const URL homeURL = URL::file(home.root().string());
     EXPECT_TRUE(SafetyGuard::isProtected(editor->url, homeURL, std::nullopt));
     EXPECT_TRUE(SafetyGuard::isProtected(wide->url, homeURL, std::nullopt));
+    const auto system = FlatpakFixture::installation(FlatpakFixture::Scope::system);
+    EXPECT_TRUE(SafetyGuard::isProtected(URL::file(system.parent_path().string()), homeURL, std::nullopt))
+        << "nor the folder that holds one";
     const auto overrides = FlatpakFixture::installation(FlatpakFixture::Scope::user) / "overrides";
     EXPECT_TRUE(SafetyGuard::isProtected(URL::file(overrides.string()), homeURL, std::nullopt));
     EXPECT_FALSE(SafetyGuard::isProtected(URL::file((overrides / "org.zephrane.Test.Gone").string()), homeURL,
