@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <fstream>
+#include <memory>
 #include <spawn.h>
 #include <stdexcept>
 #include <sys/wait.h>
@@ -102,7 +103,7 @@ const std::string& FlatpakFixture::unavailable() {
 }
 
 FlatpakFixture* FlatpakFixture::shared() {
-    static FlatpakFixture* fixture = []() -> FlatpakFixture* {
+    static const std::unique_ptr<FlatpakFixture> fixture = []() -> std::unique_ptr<FlatpakFixture> {
         std::string output;
         if (run({"flatpak", "--version"}, output) != 0) {
             failure() = "the flatpak command is not installed (scripts/install-deps installs it)";
@@ -112,22 +113,17 @@ FlatpakFixture* FlatpakFixture::shared() {
             failure() = "FLATPAK_USER_DIR is not set; the test main must call isolateHome()";
             return nullptr;
         }
-        std::string pattern = (fs::temp_directory_path() / "zephrane-flatpak-repo-XXXXXX").string();
-        if (::mkdtemp(pattern.data()) == nullptr) {
-            failure() = "no temporary folder for the repository";
-            return nullptr;
-        }
         try {
-            return new FlatpakFixture(pattern);
+            return std::make_unique<FlatpakFixture>();
         } catch (const std::exception& error) {
             failure() = error.what();
             return nullptr;
         }
     }();
-    return fixture;
+    return fixture.get();
 }
 
-FlatpakFixture::FlatpakFixture(fs::path folder) : root(std::move(folder)), repo(root / "repo") {
+FlatpakFixture::FlatpakFixture() : root(folder.root()), repo(root / "repo") {
     // The runtime is its own SDK, holds one file and needs nothing from the network.
     const fs::path runtime = root / "runtime";
     writeFile(runtime / "metadata", std::string("[Runtime]\nname=") + runtimeID + "\nruntime=" + runtimeID +

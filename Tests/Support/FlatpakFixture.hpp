@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TempTree.hpp"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -50,10 +52,12 @@ public:
     // Runs a command (no shell), returning its exit status and putting stdout and stderr in `output`.
     static int run(const std::vector<std::string>& arguments, std::string& output);
 
+    FlatpakFixture(); // use shared()
+
 private:
-    explicit FlatpakFixture(std::filesystem::path root);
     void mustRun(const std::vector<std::string>& arguments);
 
+    TempTree folder; // the repository and the build folders, removed at exit
     std::filesystem::path root;
     std::filesystem::path repo;
     int builds = 0;

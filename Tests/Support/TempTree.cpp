@@ -74,7 +74,8 @@ void isolateHome() {
     ::setenv("XDG_DATA_HOME", (home / ".local/share").c_str(), 1);
     ::setenv("XDG_CONFIG_HOME", (home / ".config").c_str(), 1);
     ::setenv("XDG_CACHE_HOME", (home / ".cache").c_str(), 1);
-    isolateFlatpak(makeTemporaryFolder("zephrane-flatpak-"));
+    static const TempTree flatpak; // removed at exit, deployed read-only files and all
+    isolateFlatpak(flatpak.root());
 }
 
 } // namespace TestSupport
