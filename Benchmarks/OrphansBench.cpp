@@ -34,9 +34,15 @@ struct Home {
         if (::mkdtemp(pattern.data()) == nullptr)
             std::abort();
         root = pattern;
-        const char* folders[] = {"Library/Preferences", "Library/Caches", "Library/Application Support",
-                                 "Library/Containers", "Library/Logs",   "Library/Saved Application State",
-                                 ".var/app",           ".cache",         ".local/share",
+        const char* folders[] = {"Library/Preferences",
+                                 "Library/Caches",
+                                 "Library/Application Support",
+                                 "Library/Containers",
+                                 "Library/Logs",
+                                 "Library/Saved Application State",
+                                 ".var/app",
+                                 ".cache",
+                                 ".local/share",
                                  ".config"};
         for (const char* folder : folders)
             fs::create_directories(root / folder);
@@ -49,8 +55,8 @@ struct Home {
             std::string name;
             switch (i % 3) {
             case 0:
-                name = "com.vendor" + std::to_string(i % knownCount) + ".app" + std::to_string(i % knownCount) +
-                       ".part" + std::to_string(i);
+                name = "com.vendor" + std::to_string(i % knownCount) + ".app" +
+                       std::to_string(i % knownCount) + ".part" + std::to_string(i);
                 break;
             case 1:
                 name = "org.gone" + std::to_string(i % 700) + ".tool.n" + std::to_string(i);
@@ -110,8 +116,8 @@ void PairwiseMatching(benchmark::State& state) {
                  it.increment(error)) {
                 const std::string id = BundleIDMatcher::normalize(it->path().filename().string());
                 for (const std::string& k : home().known)
-                    if (BundleIDMatcher::vendor(k) == BundleIDMatcher::vendor(id) || BundleIDMatcher::entry(id, k) ||
-                        BundleIDMatcher::entry(k, id)) {
+                    if (BundleIDMatcher::vendor(k) == BundleIDMatcher::vendor(id) ||
+                        BundleIDMatcher::entry(id, k) || BundleIDMatcher::entry(k, id)) {
                         ++spared;
                         break;
                     }

@@ -54,11 +54,13 @@ int runApps(const std::vector<std::string>& words, std::ostream& out, std::ostre
     for (const InstalledApp& app : apps) {
         const std::int64_t bytes = app.installedSize ? *app.installedSize : sizes.at(app.url);
         const auto blocker = app.uninstallBlocker(running, ownBundleIDs);
-        const std::optional<std::string> lastUsed = app.lastUsed ? std::optional(isoDate(*app.lastUsed)) : std::nullopt;
+        const std::optional<std::string> lastUsed =
+            app.lastUsed ? std::optional(isoDate(*app.lastUsed)) : std::nullopt;
         if (!arguments.has("json")) {
-            out << rawValue(app.kind) << '\t' << bytes << '\t' << app.name << '\t' << app.bundleID.value_or("-") << '\t'
-                << app.version.value_or("-") << '\t' << lastUsed.value_or("-") << '\t'
-                << (blocker ? rawValue(*blocker) : "-") << '\t' << app.url.path() << '\n';
+            out << rawValue(app.kind) << '\t' << bytes << '\t' << app.name << '\t'
+                << app.bundleID.value_or("-") << '\t' << app.version.value_or("-") << '\t'
+                << lastUsed.value_or("-") << '\t' << (blocker ? rawValue(*blocker) : "-") << '\t'
+                << app.url.path() << '\n';
             continue;
         }
         report.push_back({{"kind", rawValue(app.kind)},

@@ -19,8 +19,10 @@ namespace {
 using namespace CleanerCore;
 
 // The orphans of the home: "TOTAL<TAB>GROUP" lines, each followed by its "  BYTES<TAB>PATH" items.
-int reportOrphans(const LeftoverFinder& finder, const AppInventory::Sources& sources, bool json, std::ostream& out) {
-    const auto groups = finder.orphans(AppInventory::allKnownBundleIDs(AppInventory::knownBundleRoots(), sources));
+int reportOrphans(const LeftoverFinder& finder, const AppInventory::Sources& sources, bool json,
+                  std::ostream& out) {
+    const auto groups =
+        finder.orphans(AppInventory::allKnownBundleIDs(AppInventory::knownBundleRoots(), sources));
     nlohmann::json report = nlohmann::json::array();
     for (const OrphanGroup& group : groups) {
         if (!json) {
@@ -32,7 +34,8 @@ int reportOrphans(const LeftoverFinder& finder, const AppInventory::Sources& sou
         nlohmann::json items = nlohmann::json::array();
         for (const CleanupItem& item : group.items)
             items.push_back({{"path", item.url.path()}, {"allocatedBytes", item.size}});
-        report.push_back({{"id", group.bundleID}, {"totalBytes", group.totalSize()}, {"items", std::move(items)}});
+        report.push_back(
+            {{"id", group.bundleID}, {"totalBytes", group.totalSize()}, {"items", std::move(items)}});
     }
     if (json)
         out << report.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
@@ -40,8 +43,8 @@ int reportOrphans(const LeftoverFinder& finder, const AppInventory::Sources& sou
 }
 
 // One installed app's leftovers: "BYTES<TAB>KIND<TAB>PATH" lines, with "<TAB>(note)" for a caution.
-int reportApp(const LeftoverFinder& finder, const AppInventory::Sources& sources, const std::string& id, bool json,
-              std::ostream& out, std::ostream& err) {
+int reportApp(const LeftoverFinder& finder, const AppInventory::Sources& sources, const std::string& id,
+              bool json, std::ostream& out, std::ostream& err) {
     const auto apps = AppInventory::installedApps(AppInventory::defaultFolders(), sources);
     const std::string wanted = BundleIDMatcher::lowercased(id);
     const auto app = std::find_if(apps.begin(), apps.end(), [&wanted](const InstalledApp& each) {
@@ -73,10 +76,11 @@ int reportApp(const LeftoverFinder& finder, const AppInventory::Sources& sources
             out << '\n';
             continue;
         }
-        items.push_back({{"path", leftover.url.path()},
-                         {"kind", rawValue(leftover.kind)},
-                         {"caution", leftover.caution ? nlohmann::json(rawValue(*leftover.caution)) : nlohmann::json()},
-                         {"allocatedBytes", bytes}});
+        items.push_back(
+            {{"path", leftover.url.path()},
+             {"kind", rawValue(leftover.kind)},
+             {"caution", leftover.caution ? nlohmann::json(rawValue(*leftover.caution)) : nlohmann::json()},
+             {"allocatedBytes", bytes}});
     }
     if (json)
         out << nlohmann::json{{"id", *app->bundleID},

@@ -22,13 +22,16 @@ void writeFile(const fs::path& path, const std::string& text) {
 }
 
 std::string appStream(const FlatpakFixtureApp& app) {
-    std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<components version=\"0.8\" origin=\"flatpak\">\n"
-                      "  <component type=\"desktop-application\">\n    <id>" +
-                      app.id + "</id>\n";
+    std::string xml =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<components version=\"0.8\" origin=\"flatpak\">\n"
+        "  <component type=\"desktop-application\">\n    <id>" +
+        app.id + "</id>\n";
     if (app.name)
-        xml += "    <name>" + *app.name + "</name>\n    <name xml:lang=\"pt-BR\">" + *app.name + " (pt)</name>\n";
+        xml += "    <name>" + *app.name + "</name>\n    <name xml:lang=\"pt-BR\">" + *app.name +
+               " (pt)</name>\n";
     if (app.version)
-        xml += "    <releases><release version=\"" + *app.version + "\" timestamp=\"1700000000\"/></releases>\n";
+        xml +=
+            "    <releases><release version=\"" + *app.version + "\" timestamp=\"1700000000\"/></releases>\n";
     return xml + "  </component>\n</components>\n";
 }
 

@@ -23,8 +23,8 @@ bool isWellFormed(std::string_view text) {
     if (colon == 0 || colon == std::string_view::npos || colon + 1 == text.size())
         return false;
     const auto schemeCharacter = [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '+' || c == '-' ||
-               c == '.';
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '+' ||
+               c == '-' || c == '.';
     };
     const char first = text.front();
     if (!((first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z')))
@@ -71,16 +71,20 @@ std::optional<AppBundleInfo> AppBundleInfo::fromBundle(const URL& url) {
     if (const auto feed = plist->text("SUFeedURL"))
         info.feedURL = feedURLFrom(*feed);
     struct stat receipt {};
-    info.hasAppStoreReceipt = Platform::SystemCalls::current().fstatat(
-                                  AT_FDCWD, (path + "/Contents/_MASReceipt/receipt").c_str(), &receipt, 0) == 0;
+    info.hasAppStoreReceipt =
+        Platform::SystemCalls::current().fstatat(AT_FDCWD, (path + "/Contents/_MASReceipt/receipt").c_str(),
+                                                 &receipt, 0) == 0;
     return info;
 }
 
 } // namespace CleanerCore
 
-std::size_t std::hash<CleanerCore::AppBundleInfo>::operator()(const CleanerCore::AppBundleInfo& info) const noexcept {
+std::size_t
+std::hash<CleanerCore::AppBundleInfo>::operator()(const CleanerCore::AppBundleInfo& info) const noexcept {
     std::size_t seed = std::hash<CleanerCore::URL>{}(info.url);
-    const auto mix = [&seed](std::size_t value) { seed ^= value + 0x9e3779b97f4a7c15ULL + (seed << 6) + (seed >> 2); };
+    const auto mix = [&seed](std::size_t value) {
+        seed ^= value + 0x9e3779b97f4a7c15ULL + (seed << 6) + (seed >> 2);
+    };
     mix(std::hash<std::optional<std::string>>{}(info.bundleID));
     mix(std::hash<std::optional<std::string>>{}(info.shortVersion));
     mix(std::hash<std::optional<std::string>>{}(info.buildVersion));

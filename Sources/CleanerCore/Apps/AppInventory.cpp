@@ -6,8 +6,8 @@
 #include "CleanerCore/Platform/BulkListing.hpp"
 #include "CleanerCore/Platform/DesktopEntries.hpp"
 #include "CleanerCore/Platform/FileDescriptor.hpp"
-#include "CleanerCore/Platform/InstalledFlatpaks.hpp"
 #include "CleanerCore/Platform/InfoPlist.hpp"
+#include "CleanerCore/Platform/InstalledFlatpaks.hpp"
 #include "CleanerCore/Platform/LastUsed.hpp"
 
 #include <algorithm>
@@ -30,12 +30,12 @@ std::vector<Listed> contents(const std::string& folder) {
     const Platform::FileDescriptor fd(Platform::openDirectory(AT_FDCWD, folder.c_str()));
     if (!fd)
         return entries;
-    Platform::listDirectory(fd.get(),
-                            [&entries](const Platform::ListedEntry& entry) {
-                                entries.push_back({std::string(entry.name),
-                                                   entry.kind == Platform::EntryKind::directory});
-                            },
-                            {.statFolders = false, .statFiles = false});
+    Platform::listDirectory(
+        fd.get(),
+        [&entries](const Platform::ListedEntry& entry) {
+            entries.push_back({std::string(entry.name), entry.kind == Platform::EntryKind::directory});
+        },
+        {.statFolders = false, .statFiles = false});
     return entries;
 }
 
@@ -66,7 +66,9 @@ void addLowercased(std::unordered_set<std::string>& ids, std::string_view id) {
 } // namespace
 
 Sources Sources::forHome(const URL& home) {
-    Sources sources{home, true, {home.appending("Applications"), home.appending(".local/bin"), home.appending("bin")},
+    Sources sources{home,
+                    true,
+                    {home.appending("Applications"), home.appending(".local/bin"), home.appending("bin")},
                     Platform::desktopEntryFolders(home.path())};
     return sources;
 }
@@ -80,8 +82,8 @@ std::vector<URL> defaultFolders() {
 }
 
 std::vector<URL> knownBundleRoots() {
-    return {URL::file("/Applications"), homeURL().appending("Applications"), URL::file("/System/Applications"),
-            URL::file("/System/Library/CoreServices")};
+    return {URL::file("/Applications"), homeURL().appending("Applications"),
+            URL::file("/System/Applications"), URL::file("/System/Library/CoreServices")};
 }
 
 std::vector<InstalledApp> installedApps(const std::vector<URL>& folders, const Sources& sources) {
@@ -108,8 +110,9 @@ std::vector<InstalledApp> installedApps(const std::vector<URL>& folders, const S
         apps.push_back(std::move(app));
 
     const NaturalOrder order;
-    std::stable_sort(apps.begin(), apps.end(),
-                     [&order](const InstalledApp& a, const InstalledApp& b) { return order(a.name, b.name); });
+    std::stable_sort(apps.begin(), apps.end(), [&order](const InstalledApp& a, const InstalledApp& b) {
+        return order(a.name, b.name);
+    });
     return apps;
 }
 
@@ -159,7 +162,8 @@ std::vector<InstalledApp> appImages(const std::vector<URL>& folders) {
         for (const std::string& path : Platform::appImagesIn(folder.path())) {
             const URL url = URL::file(path);
             std::string name = url.lastPathComponent();
-            if (const std::string extension = url.pathExtension(); !extension.empty() && extension.size() + 1 < name.size())
+            if (const std::string extension = url.pathExtension();
+                !extension.empty() && extension.size() + 1 < name.size())
                 name.erase(name.size() - extension.size() - 1);
             InstalledApp app{url, std::move(name)};
             app.kind = AppKind::appImage;
@@ -170,15 +174,17 @@ std::vector<InstalledApp> appImages(const std::vector<URL>& folders) {
     return apps;
 }
 
-std::vector<RunningAppInfo> runningApps(const std::vector<InstalledApp>& installed, const std::string& procRoot) {
+std::vector<RunningAppInfo> runningApps(const std::vector<InstalledApp>& installed,
+                                        const std::string& procRoot) {
     std::vector<RunningAppInfo> running;
     for (const Platform::RunningApplication& process : Platform::runningApplications(procRoot)) {
         RunningAppInfo info = RunningAppInfo::fromProcess(process);
         if (!info.bundlePath && info.bundleIdentifier) {
             const std::string id = BundleIDMatcher::lowercased(*info.bundleIdentifier);
-            const auto app = std::find_if(installed.begin(), installed.end(), [&id](const InstalledApp& each) {
-                return each.bundleID && BundleIDMatcher::lowercased(*each.bundleID) == id;
-            });
+            const auto app =
+                std::find_if(installed.begin(), installed.end(), [&id](const InstalledApp& each) {
+                    return each.bundleID && BundleIDMatcher::lowercased(*each.bundleID) == id;
+                });
             if (app != installed.end())
                 info.bundlePath = app->url.path();
         }

@@ -10,8 +10,8 @@ namespace CleanerCore {
 // are files, a Flatpak is uninstalled by its installation.
 enum class AppKind { bundle, flatpakUser, flatpakSystem, appImage };
 
-inline constexpr std::array<AppKind, 4> allAppKinds{AppKind::bundle, AppKind::flatpakUser, AppKind::flatpakSystem,
-                                                     AppKind::appImage};
+inline constexpr std::array<AppKind, 4> allAppKinds{AppKind::bundle, AppKind::flatpakUser,
+                                                    AppKind::flatpakSystem, AppKind::appImage};
 
 // "bundle", "flatpakUser", "flatpakSystem", "appImage".
 std::string_view rawValue(AppKind kind);

@@ -4,8 +4,8 @@
 #include <array>
 
 #include <unicode/locid.h>
-#include <unicode/utf8.h>
 #include <unicode/unistr.h>
+#include <unicode/utf8.h>
 
 namespace CleanerCore::BundleIDMatcher {
 
@@ -53,7 +53,8 @@ std::string lowercased(std::string_view text) {
     if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; }) ||
         !isValidUTF8(text))
         return asciiLowercased(text);
-    icu::UnicodeString unicode = icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
+    icu::UnicodeString unicode =
+        icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
     unicode.toLower(icu::Locale::getRoot());
     std::string out;
     unicode.toUTF8String(out);

@@ -22,7 +22,8 @@ std::string nameOf(const URL& url) {
 
 bool isLink(const std::string& path) {
     struct stat info {};
-    return Platform::SystemCalls::current().fstatat(AT_FDCWD, path.c_str(), &info, AT_SYMLINK_NOFOLLOW) == 0 &&
+    return Platform::SystemCalls::current().fstatat(AT_FDCWD, path.c_str(), &info, AT_SYMLINK_NOFOLLOW) ==
+               0 &&
            S_ISLNK(info.st_mode);
 }
 
@@ -43,8 +44,9 @@ std::set<std::string> InstalledApp::folderNames() const {
     return names;
 }
 
-std::optional<UninstallBlocker> InstalledApp::uninstallBlocker(const std::set<std::string>& runningBundleIDs,
-                                                               const std::set<std::string>& ownBundleIDs) const {
+std::optional<UninstallBlocker>
+InstalledApp::uninstallBlocker(const std::set<std::string>& runningBundleIDs,
+                               const std::set<std::string>& ownBundleIDs) const {
     if (!bundleID)
         return std::nullopt;
     const std::string id = BundleIDMatcher::lowercased(*bundleID);
@@ -69,7 +71,8 @@ std::optional<InstalledApp> InstalledApp::fromBundle(const URL& url) {
     const auto plist = Platform::InfoPlist::read(path);
     if (!plist)
         return std::nullopt;
-    InstalledApp app{url, nameOf(url), plist->text("CFBundleIdentifier"), plist->text("CFBundleShortVersionString")};
+    InstalledApp app{url, nameOf(url), plist->text("CFBundleIdentifier"),
+                     plist->text("CFBundleShortVersionString")};
     // No Spotlight here: the main executable's access time stands in, when the volume records it.
     if (const auto executable = plist->text("CFBundleExecutable");
         executable && !executable->empty() && executable->find('/') == std::string::npos)
@@ -79,9 +82,12 @@ std::optional<InstalledApp> InstalledApp::fromBundle(const URL& url) {
 
 } // namespace CleanerCore
 
-std::size_t std::hash<CleanerCore::InstalledApp>::operator()(const CleanerCore::InstalledApp& app) const noexcept {
+std::size_t
+std::hash<CleanerCore::InstalledApp>::operator()(const CleanerCore::InstalledApp& app) const noexcept {
     std::size_t seed = std::hash<CleanerCore::URL>{}(app.url);
-    const auto mix = [&seed](std::size_t value) { seed ^= value + 0x9e3779b97f4a7c15ULL + (seed << 6) + (seed >> 2); };
+    const auto mix = [&seed](std::size_t value) {
+        seed ^= value + 0x9e3779b97f4a7c15ULL + (seed << 6) + (seed >> 2);
+    };
     mix(std::hash<std::string>{}(app.name));
     mix(std::hash<std::optional<std::string>>{}(app.bundleID));
     mix(std::hash<std::optional<std::string>>{}(app.version));

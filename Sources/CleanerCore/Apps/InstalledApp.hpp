@@ -14,8 +14,8 @@ namespace CleanerCore {
 
 // One application the user can see and remove. Its identity is its URL.
 struct InstalledApp {
-    URL url;                             // the ".app" bundle, the Flatpak's deploy folder or the AppImage file
-    std::string name;                    // a bundle's file name without extension; a Flatpak's AppStream name
+    URL url;          // the ".app" bundle, the Flatpak's deploy folder or the AppImage file
+    std::string name; // a bundle's file name without extension; a Flatpak's AppStream name
     std::optional<std::string> bundleID; // as stored, case kept; a Flatpak's id
     std::optional<std::string> version;
     std::optional<std::chrono::system_clock::time_point> lastUsed;

@@ -74,14 +74,14 @@ LeftoverFinder::LeftoverFinder(const URL& homeFolder, std::optional<URL> system)
 std::vector<LeftoverFinder::SearchFolder> LeftoverFinder::searchFolders(bool includingSystem) const {
     std::vector<SearchFolder> folders;
     const auto library = [&folders](const URL& root, std::string_view folder, bool isSystem) {
-        folders.push_back({std::string(folder), root.appending(folder), leftoverKind(folder), isAppOnlyFolder(folder),
-                           isNameMatchFolder(folder), isSystem});
+        folders.push_back({std::string(folder), root.appending(folder), leftoverKind(folder),
+                           isAppOnlyFolder(folder), isNameMatchFolder(folder), isSystem});
     };
     for (std::string_view folder : userFolders)
         library(userLibrary, folder, false);
     for (const XdgFolder& xdg : xdgProfile)
-        folders.push_back({std::string(xdg.relativePath), home.appending(xdg.relativePath), xdg.kind, xdg.appOnly,
-                           xdg.nameMatch, false});
+        folders.push_back({std::string(xdg.relativePath), home.appending(xdg.relativePath), xdg.kind,
+                           xdg.appOnly, xdg.nameMatch, false});
     if (includingSystem && systemLibrary)
         for (std::string_view folder : systemFolders)
             library(*systemLibrary, folder, true);
@@ -94,14 +94,14 @@ std::vector<LeftoverFinder::Entry> LeftoverFinder::entries(const std::vector<Sea
         const Platform::FileDescriptor fd(Platform::openDirectory(AT_FDCWD, folder.location.path().c_str()));
         if (!fd)
             continue;
-        Platform::listDirectory(fd.get(),
-                                [&](const Platform::ListedEntry& entry) {
-                                    if (entry.name == ".DS_Store")
-                                        return;
-                                    found.push_back({&folder, folder.location.appending(entry.name),
-                                                     std::string(entry.name)});
-                                },
-                                {.statFolders = false, .statFiles = false});
+        Platform::listDirectory(
+            fd.get(),
+            [&](const Platform::ListedEntry& entry) {
+                if (entry.name == ".DS_Store")
+                    return;
+                found.push_back({&folder, folder.location.appending(entry.name), std::string(entry.name)});
+            },
+            {.statFolders = false, .statFiles = false});
     }
     return found;
 }
@@ -161,8 +161,9 @@ LeftoverFinder::appLeftovers(const std::vector<InstalledApp>& apps,
     return result;
 }
 
-std::vector<AppLeftover> LeftoverFinder::appLeftovers(const InstalledApp& app,
-                                                      const std::unordered_set<std::string>& otherAppBundleIDs) const {
+std::vector<AppLeftover>
+LeftoverFinder::appLeftovers(const InstalledApp& app,
+                             const std::unordered_set<std::string>& otherAppBundleIDs) const {
     auto all = appLeftovers(std::vector<InstalledApp>{app}, otherAppBundleIDs);
     const auto found = all.find(app.url);
     return found == all.end() ? std::vector<AppLeftover>{} : std::move(found->second);
@@ -223,8 +224,9 @@ std::vector<OrphanGroup> LeftoverFinder::orphans(const std::unordered_set<std::s
                          [](const CleanupItem& a, const CleanupItem& b) { return a.size > b.size; });
         groups.push_back(std::move(group));
     }
-    std::stable_sort(groups.begin(), groups.end(),
-                     [](const OrphanGroup& a, const OrphanGroup& b) { return a.totalSize() > b.totalSize(); });
+    std::stable_sort(groups.begin(), groups.end(), [](const OrphanGroup& a, const OrphanGroup& b) {
+        return a.totalSize() > b.totalSize();
+    });
     return groups;
 }
 

@@ -33,13 +33,22 @@ public:
         bool operator==(const SearchFolder&) const = default;
     };
 
-    static constexpr std::array<std::string_view, 13> userFolders{
-        "Application Support", "Caches", "Preferences", "Preferences/ByHost", "Containers", "Group Containers",
-        "Saved Application State", "Logs", "HTTPStorages", "WebKit", "Cookies", "LaunchAgents",
-        "Application Scripts"};
+    static constexpr std::array<std::string_view, 13> userFolders{"Application Support",
+                                                                  "Caches",
+                                                                  "Preferences",
+                                                                  "Preferences/ByHost",
+                                                                  "Containers",
+                                                                  "Group Containers",
+                                                                  "Saved Application State",
+                                                                  "Logs",
+                                                                  "HTTPStorages",
+                                                                  "WebKit",
+                                                                  "Cookies",
+                                                                  "LaunchAgents",
+                                                                  "Application Scripts"};
     static constexpr std::array<std::string_view, 7> systemFolders{
-        "Application Support", "Caches", "Preferences", "LaunchAgents", "LaunchDaemons", "PrivilegedHelperTools",
-        "Logs"};
+        "Application Support",   "Caches", "Preferences", "LaunchAgents", "LaunchDaemons",
+        "PrivilegedHelperTools", "Logs"};
 
     URL home;
     URL userLibrary;
@@ -57,10 +66,12 @@ public:
     // entry of another app whose identifier lies below this one's is never this one's.
     // `otherAppBundleIDs` are lower case.
     std::unordered_map<URL, std::vector<AppLeftover>>
-    appLeftovers(const std::vector<InstalledApp>& apps, const std::unordered_set<std::string>& otherAppBundleIDs) const;
+    appLeftovers(const std::vector<InstalledApp>& apps,
+                 const std::unordered_set<std::string>& otherAppBundleIDs) const;
     std::vector<AppLeftover> appLeftovers(const InstalledApp& app,
                                           const std::unordered_set<std::string>& otherAppBundleIDs) const;
-    std::vector<URL> leftovers(const InstalledApp& app, const std::unordered_set<std::string>& otherAppBundleIDs) const;
+    std::vector<URL> leftovers(const InstalledApp& app,
+                               const std::unordered_set<std::string>& otherAppBundleIDs) const;
 
     // What belongs to no known identifier (lower case), grouped by the names' first three parts.
     // A group stands only when an app-only folder holds one of its entries; vendors, parents and

@@ -17,7 +17,8 @@ RunningAppInfo RunningAppInfo::fromProcess(const Platform::RunningApplication& p
 
 } // namespace CleanerCore
 
-std::size_t std::hash<CleanerCore::RunningAppInfo>::operator()(const CleanerCore::RunningAppInfo& info) const noexcept {
+std::size_t
+std::hash<CleanerCore::RunningAppInfo>::operator()(const CleanerCore::RunningAppInfo& info) const noexcept {
     return std::hash<std::int32_t>{}(info.pid) ^ (std::hash<std::string>{}(info.name) << 1) ^
            (std::hash<std::optional<std::string>>{}(info.bundleIdentifier) << 2);
 }

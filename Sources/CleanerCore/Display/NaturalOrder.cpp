@@ -9,8 +9,8 @@ namespace CleanerCore {
 
 NaturalOrder::NaturalOrder() {
     UErrorCode status = U_ZERO_ERROR;
-    collator.reset(icu::Collator::createInstance(icu::Locale::forLanguageTag(CoreL10n::currentLanguage(), status),
-                                                 status));
+    collator.reset(icu::Collator::createInstance(
+        icu::Locale::forLanguageTag(CoreL10n::currentLanguage(), status), status));
     if (U_FAILURE(status) || !collator) {
         status = U_ZERO_ERROR;
         collator.reset(icu::Collator::createInstance(icu::Locale::getRoot(), status));

@@ -125,8 +125,9 @@ std::optional<std::string> gunzip(std::string_view bytes, std::size_t limit) {
     for (;;) {
         gsize read = 0, written = 0;
         GError* error = nullptr;
-        const GConverterResult result = g_converter_convert(converter, in, left, buffer.data(), buffer.size(),
-                                                            G_CONVERTER_INPUT_AT_END, &read, &written, &error);
+        const GConverterResult result =
+            g_converter_convert(converter, in, left, buffer.data(), buffer.size(), G_CONVERTER_INPUT_AT_END,
+                                &read, &written, &error);
         if (result == G_CONVERTER_ERROR) {
             g_error_free(error);
             return std::nullopt;

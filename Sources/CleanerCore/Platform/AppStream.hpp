@@ -25,7 +25,8 @@ std::vector<AppStreamComponent> parseAppStream(std::string_view xml);
 
 // The document in a file, plain or gzip-compressed (told apart by the gzip magic). Nothing when
 // it can't be read or unpacked; an unpacked document is cut off at `limit` bytes.
-std::optional<std::string> readAppStreamFile(const std::string& path, std::size_t limit = std::size_t{64} << 20);
+std::optional<std::string> readAppStreamFile(const std::string& path,
+                                             std::size_t limit = std::size_t{64} << 20);
 
 // The component for `id` (also matching an id written with a final ".desktop") in the document
 // at `path`; nothing when the file or the component is missing.

@@ -14,7 +14,8 @@ namespace {
 constexpr std::string_view suffix = ".desktop";
 constexpr int maximumDepth = 3; // freedesktop allows subfolders; nobody nests deeper
 
-void collect(int parentFd, const char* name, const std::string& prefix, int depth, std::vector<std::string>& ids) {
+void collect(int parentFd, const char* name, const std::string& prefix, int depth,
+             std::vector<std::string>& ids) {
     const FileDescriptor fd(openDirectory(parentFd, name));
     if (!fd)
         return;
@@ -24,7 +25,8 @@ void collect(int parentFd, const char* name, const std::string& prefix, int dept
                       if (entry.kind == EntryKind::directory)
                           folders.emplace_back(entry.name);
                       else if (entry.name.size() > suffix.size() && entry.name.ends_with(suffix))
-                          ids.push_back(prefix + std::string(entry.name.substr(0, entry.name.size() - suffix.size())));
+                          ids.push_back(prefix +
+                                        std::string(entry.name.substr(0, entry.name.size() - suffix.size())));
                   },
                   {.statFolders = false, .statFiles = false});
     if (depth >= maximumDepth)

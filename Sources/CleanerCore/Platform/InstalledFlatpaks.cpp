@@ -56,9 +56,9 @@ void completeFromAppStream(InstalledFlatpak& ref) {
     if (ref.name && ref.version)
         return;
     const std::string share = ref.deployPath + "/files/share/";
-    for (const std::string& path : {share + "app-info/xmls/" + ref.id + ".xml.gz",
-                                    share + "metainfo/" + ref.id + ".metainfo.xml",
-                                    share + "appdata/" + ref.id + ".appdata.xml"}) {
+    for (const std::string& path :
+         {share + "app-info/xmls/" + ref.id + ".xml.gz", share + "metainfo/" + ref.id + ".metainfo.xml",
+          share + "appdata/" + ref.id + ".appdata.xml"}) {
         if (const auto component = appStreamComponent(path, ref.id)) {
             if (!ref.name)
                 ref.name = component->name;
@@ -88,7 +88,8 @@ std::vector<InstalledFlatpak> installedFlatpaks() {
         if (pathOf(where, installation.get()).empty())
             continue;
         GError* error = nullptr;
-        const PointerArray installed{flatpak_installation_list_installed_refs(installation.get(), nullptr, &error)};
+        const PointerArray installed{
+            flatpak_installation_list_installed_refs(installation.get(), nullptr, &error)};
         g_clear_error(&error);
         if (!installed)
             continue;
@@ -99,15 +100,16 @@ std::vector<InstalledFlatpak> installedFlatpaks() {
             const char* deploy = flatpak_installed_ref_get_deploy_dir(ref);
             if (id == nullptr || deploy == nullptr)
                 continue;
-            InstalledFlatpak entry{id,
-                             flatpak_ref_get_branch(plain) ? flatpak_ref_get_branch(plain) : "",
-                             flatpak_ref_get_kind(plain) == FLATPAK_REF_KIND_APP,
-                             text(flatpak_installed_ref_get_appdata_name(ref)),
-                             text(flatpak_installed_ref_get_appdata_version(ref)),
-                             deploy,
-                             static_cast<std::int64_t>(flatpak_installed_ref_get_installed_size(ref)),
-                             flatpak_installed_ref_get_origin(ref) ? flatpak_installed_ref_get_origin(ref) : "",
-                             where};
+            InstalledFlatpak entry{
+                id,
+                flatpak_ref_get_branch(plain) ? flatpak_ref_get_branch(plain) : "",
+                flatpak_ref_get_kind(plain) == FLATPAK_REF_KIND_APP,
+                text(flatpak_installed_ref_get_appdata_name(ref)),
+                text(flatpak_installed_ref_get_appdata_version(ref)),
+                deploy,
+                static_cast<std::int64_t>(flatpak_installed_ref_get_installed_size(ref)),
+                flatpak_installed_ref_get_origin(ref) ? flatpak_installed_ref_get_origin(ref) : "",
+                where};
             if (entry.isApp)
                 completeFromAppStream(entry);
             refs.push_back(std::move(entry));

@@ -23,8 +23,8 @@ namespace {
 constexpr int maximumEntries = 20000;
 
 TimePoint timeOf(const struct statx_timestamp& stamp) {
-    return TimePoint(std::chrono::duration_cast<TimePoint::duration>(std::chrono::seconds(stamp.tv_sec) +
-                                                                     std::chrono::nanoseconds(stamp.tv_nsec)));
+    return TimePoint(std::chrono::duration_cast<TimePoint::duration>(
+        std::chrono::seconds(stamp.tv_sec) + std::chrono::nanoseconds(stamp.tv_nsec)));
 }
 
 void lastSeenElement(void* data, const XML_Char* element, const XML_Char** attributes) {
@@ -38,7 +38,8 @@ void lastSeenElement(void* data, const XML_Char* element, const XML_Char** attri
             seen = attributes[i + 1];
     }
     long long seconds = 0;
-    if (id.empty() || std::from_chars(seen.data(), seen.data() + seen.size(), seconds).ptr != seen.data() + seen.size() ||
+    if (id.empty() ||
+        std::from_chars(seen.data(), seen.data() + seen.size(), seconds).ptr != seen.data() + seen.size() ||
         seen.empty() || seconds <= 0)
         return;
     if (id.ends_with(".desktop"))

@@ -65,7 +65,8 @@ int parentOf(std::string_view status) {
     const std::size_t at = status.find(key);
     if (at == std::string_view::npos)
         return 0;
-    const std::string_view value = trimmed(status.substr(at + key.size(), status.find('\n', at + 1) - at - key.size()));
+    const std::string_view value =
+        trimmed(status.substr(at + key.size(), status.find('\n', at + 1) - at - key.size()));
     int parent = 0;
     std::from_chars(value.data(), value.data() + value.size(), parent);
     return parent;

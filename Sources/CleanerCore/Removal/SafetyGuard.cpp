@@ -249,8 +249,9 @@ bool appPlaceProtected(std::string_view path, std::span<const std::string> homes
             return true;
     }
     const std::vector<std::string>& installations = flatpakInstallationFolders();
-    return std::any_of(installations.begin(), installations.end(),
-                       [&](const std::string& installation) { return inFlatpakInstallation(path, installation); });
+    return std::any_of(installations.begin(), installations.end(), [&](const std::string& installation) {
+        return inFlatpakInstallation(path, installation);
+    });
 }
 
 std::string realOrSelf(const std::string& path) {
@@ -355,7 +356,8 @@ bool isProtectedPath(std::string_view path, std::span<const std::string> homes,
     for (const std::string& bundle : bundles)
         if (path == bundle || below(bundle, path) || below(path, bundle))
             return true;
-    return linuxProtected(path, parts, homes) || inMovedHomeTrash(path, parent) || appPlaceProtected(path, homes);
+    return linuxProtected(path, parts, homes) || inMovedHomeTrash(path, parent) ||
+           appPlaceProtected(path, homes);
 }
 
 namespace {

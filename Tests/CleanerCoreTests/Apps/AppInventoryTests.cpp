@@ -80,14 +80,15 @@ TEST(AppInventory, FindsBundlesOneFolderDeepSortedNaturallyWithoutDeduplication)
     TestSupport::TempTree tree;
     const auto system = tree.folder("Applications");
     const auto user = tree.folder("home/Applications");
-    bundle(system / "App 10.app", {{"CFBundleIdentifier", "com.example.ten"}, {"CFBundleShortVersionString", "10"}});
+    bundle(system / "App 10.app",
+           {{"CFBundleIdentifier", "com.example.ten"}, {"CFBundleShortVersionString", "10"}});
     bundle(system / "app 9.app", {{"CFBundleIdentifier", "com.example.nine"}});
     bundle(system / "Utilities/Tool.app", {{"CFBundleIdentifier", "com.example.tool"}});
     bundle(system / "Vendor/Sub/Deep.app", {{"CFBundleIdentifier", "com.example.deep"}});
     bundle(system / ".Hidden.app", {});
     bundle(system / "Upper.APP", {{"CFBundleIdentifier", "com.example.upper"}});
     bundle(system / "Folder.app/Inner.app", {{"CFBundleIdentifier", "com.example.inner"}}); // never opened
-    tree.folder("Applications/Empty.app");                                               // no Info.plist
+    tree.folder("Applications/Empty.app");                                                  // no Info.plist
     tree.symlink("Applications/Linked.app", system / "App 10.app");
     writeText(system / "Broken.app/Contents/Info.plist", "<plist><dict><key>CFBundle");
     writeText(system / "Array.app/Contents/Info.plist", "<plist><array><string>x</string></array></plist>");
@@ -95,15 +96,16 @@ TEST(AppInventory, FindsBundlesOneFolderDeepSortedNaturallyWithoutDeduplication)
     writeText(system / "Binary.app/Contents/Info.plist", binaryPlist());
     bundle(user / "Tool.app", {{"CFBundleIdentifier", "<integer>7</integer>"}});
 
-    const auto apps = AppInventory::installedApps({URL::file(system.string()), URL::file(user.string()),
-                                                   URL::file(tree.path("missing").string())},
-                                                  AppInventory::Sources::none());
+    const auto apps = AppInventory::installedApps(
+        {URL::file(system.string()), URL::file(user.string()), URL::file(tree.path("missing").string())},
+        AppInventory::Sources::none());
     EXPECT_THAT(names(apps), ElementsAre(".Hidden", "app 9", "App 10", "Binary", "Tool", "Tool"));
     EXPECT_EQ(apps[0].bundleID, std::nullopt);
     EXPECT_EQ(apps[2].version, "10");
     EXPECT_EQ(apps[3].bundleID, "com.binary.app");
     EXPECT_EQ(apps[3].version, "2.0");
-    EXPECT_EQ(apps[4].url.path(), (system / "Utilities/Tool.app").string()) << "the stable sort keeps folder order";
+    EXPECT_EQ(apps[4].url.path(), (system / "Utilities/Tool.app").string())
+        << "the stable sort keeps folder order";
     EXPECT_EQ(apps[5].bundleID, std::nullopt) << "a number is no identifier";
     EXPECT_EQ(apps[0].kind, AppKind::bundle);
     EXPECT_EQ(apps[0].lastUsed, std::nullopt);
@@ -178,7 +180,9 @@ TEST(AppBundleInfo, FeedAddressesAreTrimmedAndOnlyWebSchemesKept) {
 
 TEST(AppInventory, AppImagesAreKnownByTheirMagicNotTheirName) {
     TestSupport::TempTree home;
-    const std::string elf = std::string("\x7f" "ELF\x02\x01\x01\x00", 8);
+    const std::string elf = std::string("\x7f"
+                                        "ELF\x02\x01\x01\x00",
+                                        8);
     writeText(home.path("Applications/Krita-5.2.AppImage"), elf + "AI\x02" + std::string(100, '\0'));
     writeText(home.path(".local/bin/renamed"), elf + std::string("AI\x01", 3) + std::string(100, '\0'));
     writeText(home.path(".local/bin/plain-elf"), elf + std::string(100, '\0'));
@@ -196,9 +200,11 @@ TEST(AppInventory, AppImagesAreKnownByTheirMagicNotTheirName) {
 
     // The folders that hold AppImages stay; the AppImages in them may go.
     for (const char* folder : {"Applications", ".local/bin", "bin", ".var", ".var/app"})
-        EXPECT_TRUE(SafetyGuard::isProtected(URL::file(home.path(folder).string()), homeURL, std::nullopt)) << folder;
+        EXPECT_TRUE(SafetyGuard::isProtected(URL::file(home.path(folder).string()), homeURL, std::nullopt))
+            << folder;
     EXPECT_FALSE(SafetyGuard::isProtected(apps[0].url, homeURL, std::nullopt));
-    EXPECT_FALSE(SafetyGuard::isProtected(URL::file(home.path("bin/renamed").string()), homeURL, std::nullopt));
+    EXPECT_FALSE(
+        SafetyGuard::isProtected(URL::file(home.path("bin/renamed").string()), homeURL, std::nullopt));
     EXPECT_FALSE(SafetyGuard::isProtected(URL::file(home.path(".var/app/org.gone.App").string()), homeURL,
                                           std::nullopt));
     EXPECT_TRUE(SafetyGuard::isProtected(URL::file(home.path(".local/share/flatpak/app/org.x.Y").string()),

@@ -12,15 +12,15 @@
 #include <sys/stat.h>
 
 using namespace CleanerCore;
-using TestSupport::FlatpakFixture;
 using testing::Contains;
+using TestSupport::FlatpakFixture;
 
 namespace {
 
 // The shared fixture, or a skip that says why flatpak can't be used here.
-#define REQUIRE_FLATPAK(fixture)                                                                                   \
-    FlatpakFixture* fixture = FlatpakFixture::shared();                                                             \
-    if (fixture == nullptr)                                                                                         \
+#define REQUIRE_FLATPAK(fixture)                                                                             \
+    FlatpakFixture* fixture = FlatpakFixture::shared();                                                      \
+    if (fixture == nullptr)                                                                                  \
     GTEST_SKIP() << FlatpakFixture::unavailable()
 
 const InstalledApp* findApp(const std::vector<InstalledApp>& apps, const std::string& id) {
@@ -68,7 +68,8 @@ TEST(FlatpakInventory, ListsUserAndSystemAppsWithTheirAppStreamFacts) {
     EXPECT_EQ(editor->version, "1.4.2");
     EXPECT_EQ(editor->origin, FlatpakFixture::remoteName);
     EXPECT_GE(editor->installedSize.value_or(0), 64 * 1024);
-    EXPECT_TRUE(editor->url.isInside(URL::file(FlatpakFixture::installation(FlatpakFixture::Scope::user).string())));
+    EXPECT_TRUE(
+        editor->url.isInside(URL::file(FlatpakFixture::installation(FlatpakFixture::Scope::user).string())));
     EXPECT_TRUE(std::filesystem::is_directory(editor->url.path() + "/files/bin"));
     EXPECT_EQ(editor->lastUsed, std::nullopt); // never run: no state, no ~/.var/app folder
 

@@ -57,9 +57,11 @@ TEST_F(LeftoverHome, AnAppClaimsItsIdentifierEverywhereButNotWhatNestedAppsOwn) 
                 UnorderedElementsAre(user("Library/Preferences/com.foo.helper.plist"),
                                      user("Library/Preferences/com.foo.plist"),
                                      user("Library/Preferences/ByHost/com.foo.ABCDEF.plist"),
-                                     user("Library/Group Containers/ABCDE12345.com.foo"), user(".var/app/com.foo"),
-                                     user(".config/autostart/com.foo.desktop"), system.path("Caches/com.foo").string()));
-    EXPECT_EQ(leftovers.back().url.path(), system.path("Caches/com.foo").string()) << "the system Library comes last";
+                                     user("Library/Group Containers/ABCDE12345.com.foo"),
+                                     user(".var/app/com.foo"), user(".config/autostart/com.foo.desktop"),
+                                     system.path("Caches/com.foo").string()));
+    EXPECT_EQ(leftovers.back().url.path(), system.path("Caches/com.foo").string())
+        << "the system Library comes last";
 }
 
 TEST_F(LeftoverHome, KindsAndCautionsFollowTheFolder) {
@@ -148,17 +150,21 @@ TEST_F(LeftoverHome, UnreadableFoldersAndOddNamesAreSkippedQuietly) {
     home.file("Library/Caches/com.hidden.app/x", 1);
     home.file("Library/Preferences/com.hidden.app.plist", 1);
     TestSupport::FaultySystemCalls calls;
-    calls.openFault = [](const char* name) { return std::string_view(name).ends_with("/Preferences") ? EACCES : 0; };
+    calls.openFault = [](const char* name) {
+        return std::string_view(name).ends_with("/Preferences") ? EACCES : 0;
+    };
     const CleanerCore::Platform::ScopedSystemCalls installed(calls);
     const auto groups = finder.orphans({});
-    ASSERT_EQ(groups.size(), 1u) << "the hidden app's preferences were never seen, and a cache proves nothing";
+    ASSERT_EQ(groups.size(), 1u)
+        << "the hidden app's preferences were never seen, and a cache proves nothing";
     EXPECT_EQ(groups[0].bundleID, "com.odd\xff.name");
 }
 
 TEST(LeftoverKinds, TitlesAndNotesExistInBothLanguages) {
     for (std::string_view language : {"en", "pt-BR"}) {
         for (LeftoverKind kind : allLeftoverKinds)
-            EXPECT_NE(title(kind, std::string(language)), fmt::format("core.leftoverKind.{}", rawValue(kind)));
+            EXPECT_NE(title(kind, std::string(language)),
+                      fmt::format("core.leftoverKind.{}", rawValue(kind)));
         for (LeftoverCaution caution : allLeftoverCautions)
             EXPECT_NE(note(caution, std::string(language)),
                       fmt::format("core.leftoverCaution.{}", rawValue(caution)));

@@ -35,7 +35,10 @@ void buildHome(const TestSupport::TempTree& home) {
               "<key>CFBundleShortVersionString</key><string>3.1</string></dict></plist>");
     home.file("Library/Preferences/net.mapper.App.plist", 100);
     home.file("Library/Group Containers/group.net.mapper.App/db", 5000);
-    writeText(home.path(".local/bin/Tiled"), std::string("\x7f" "ELF\x02\x01\x01\x00" "AI\x02", 11) +
+    writeText(home.path(".local/bin/Tiled"), std::string("\x7f"
+                                                         "ELF\x02\x01\x01\x00"
+                                                         "AI\x02",
+                                                         11) +
                                                  std::string(8192, 'x'));
     home.file(".var/app/io.removed.Player/data/cache.bin", 9000);
     home.file(".local/share/io.removed.Player/x", 10);
@@ -99,7 +102,9 @@ TEST(LeftoversVerb, ReportsOrphanGroupsOrOneAppsLeftovers) {
 
     std::ostringstream text;
     ASSERT_EQ(ZephraneCli::run({"leftovers", "--app=net.mapper.App"}, text, err), 0);
-    EXPECT_THAT(text.str(), testing::HasSubstr("\tdata\t" + home.path("Library/Group Containers/group.net.mapper.App").string() + "\t("));
+    EXPECT_THAT(text.str(), testing::HasSubstr(
+                                "\tdata\t" +
+                                home.path("Library/Group Containers/group.net.mapper.App").string() + "\t("));
     std::ostringstream unknownErr;
     EXPECT_EQ(ZephraneCli::run({"leftovers", "--app", "org.not.installed"}, text, unknownErr), 1);
     EXPECT_THAT(unknownErr.str(), testing::HasSubstr("org.not.installed"));

@@ -44,9 +44,10 @@ TEST(AppStream, ReadsIdsUntranslatedNamesAndTheNewestRelease) {
     EXPECT_EQ(parseAppStream("<component><id>a.b.c</id><name>ABC</name></component>").size(), 1u);
     EXPECT_EQ(parseAppStream(collection.substr(0, collection.find("<component><name>"))).size(), 1u);
     EXPECT_THAT(parseAppStream("\xff\xfe garbage"), IsEmpty());
-    EXPECT_THAT(parseAppStream("<!DOCTYPE x [<!ENTITY e SYSTEM \"file:///etc/passwd\">]><component><id>&e;</id>"
-                               "</component>"),
-                IsEmpty())
+    EXPECT_THAT(
+        parseAppStream("<!DOCTYPE x [<!ENTITY e SYSTEM \"file:///etc/passwd\">]><component><id>&e;</id>"
+                       "</component>"),
+        IsEmpty())
         << "external entities are never loaded";
 }
 
@@ -71,8 +72,9 @@ TEST(AppStream, ReadsPlainAndCompressedFilesAndRefusesBrokenOnes) {
 }
 
 TEST(InfoPlist, KeepsTextValuesOfDictionariesOnly) {
-    const auto plist = InfoPlist::parse("<plist><dict><key>A</key><string>a</string><key>N</key><integer>1</integer>"
-                                        "<key>E</key><string></string></dict></plist>");
+    const auto plist =
+        InfoPlist::parse("<plist><dict><key>A</key><string>a</string><key>N</key><integer>1</integer>"
+                         "<key>E</key><string></string></dict></plist>");
     ASSERT_TRUE(plist.has_value());
     EXPECT_EQ(plist->text("A"), "a");
     EXPECT_EQ(plist->text("N"), std::nullopt);

@@ -52,8 +52,9 @@ TEST(RunningApplications, BundlesComeFromTheExecutablesInnermostApp) {
     auto running = runningApplications(proc.string());
     std::ranges::sort(running, {}, &RunningApplication::pid);
     ASSERT_EQ(running.size(), 5u);
-    EXPECT_EQ(running[0], (RunningApplication{10, "Mail", (apps / "Mail.app/Contents/MacOS/Mail").string(),
-                                              "com.example.mail", (apps / "Mail.app").string(), std::nullopt, true}));
+    EXPECT_EQ(running[0],
+              (RunningApplication{10, "Mail", (apps / "Mail.app/Contents/MacOS/Mail").string(),
+                                  "com.example.mail", (apps / "Mail.app").string(), std::nullopt, true}));
     EXPECT_EQ(running[1].bundleIdentifier, "com.example.mail.sync");
     EXPECT_EQ(running[1].bundlePath, (apps / "Mail.app/Contents/Helpers/Sync.app").string());
     EXPECT_EQ(running[2], (RunningApplication{12, "bash", "/usr/bin/bash", std::nullopt, std::nullopt}));
@@ -73,11 +74,12 @@ TEST(RunningApplications, FlatpakInstancesAndApplicationScopesNameTheirApps) {
         writeText(proc / std::to_string(pid) / "comm", "proc" + std::to_string(pid) + "\n");
         writeText(proc / std::to_string(pid) / "status",
                   "Name:\tx\nUmask:\t0022\nState:\tS\nPPid:\t" + std::to_string(parent) + "\n");
-        writeText(proc / std::to_string(pid) / "cgroup", "0::/user.slice/user-1000.slice/user@1000.service/app.slice/" +
-                                                            unit + "\n");
+        writeText(proc / std::to_string(pid) / "cgroup",
+                  "0::/user.slice/user-1000.slice/user@1000.service/app.slice/" + unit + "\n");
     };
     process(20, 1, "app-flatpak-org.example.Viewer-4242.scope");
-    writeText(proc / "20/root/.flatpak-info", "[Application]\nname = org.example.Viewer\nruntime=x\n[Instance]\nname=y\n");
+    writeText(proc / "20/root/.flatpak-info",
+              "[Application]\nname = org.example.Viewer\nruntime=x\n[Instance]\nname=y\n");
     process(21, 20, "app-flatpak-org.example.Viewer-4242.scope");
     writeText(proc / "21/root/.flatpak-info", "[Application]\nname=org.example.Viewer\n");
     process(30, 1, "app-gnome-org.gnome.Terminal\\x2dPreview-777.scope");
