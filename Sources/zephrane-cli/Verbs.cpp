@@ -6,6 +6,8 @@ int runJunk(const std::vector<std::string>& words, const Streams& streams);
 int runSize(const std::vector<std::string>& words, const Streams& streams);
 int runGuard(const std::vector<std::string>& words, const Streams& streams);
 int runTree(const std::vector<std::string>& words, const Streams& streams);
+int runApps(const std::vector<std::string>& words, const Streams& streams);
+int runLeftovers(const std::vector<std::string>& words, const Streams& streams);
 
 // Each verb lives in a file of its own (<Name>Verb.cpp) and is listed here once.
 const std::vector<Verb>& verbs() {
@@ -18,6 +20,11 @@ const std::vector<Verb>& verbs() {
          runJunk},
         {"tree", "tree PATH [--json] [--min-node-size BYTES] [--keep N]",
          "what takes up the space below PATH, folder by folder, small items summed up", runTree},
+        {"apps", "apps [--json]",
+         "the installed applications: bundles, Flatpaks and AppImages, with size and last use", runApps},
+        {"leftovers", "leftovers [--json] [--app ID]",
+         "what removed applications left in the home, or with --app what goes with one installed application",
+         runLeftovers},
     };
     return all;
 }

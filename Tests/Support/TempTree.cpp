@@ -1,5 +1,7 @@
 #include "TempTree.hpp"
 
+#include "FlatpakFixture.hpp"
+
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -72,6 +74,8 @@ void isolateHome() {
     ::setenv("XDG_DATA_HOME", (home / ".local/share").c_str(), 1);
     ::setenv("XDG_CONFIG_HOME", (home / ".config").c_str(), 1);
     ::setenv("XDG_CACHE_HOME", (home / ".cache").c_str(), 1);
+    static const TempTree flatpak; // removed at exit, deployed read-only files and all
+    isolateFlatpak(flatpak.root());
 }
 
 } // namespace TestSupport

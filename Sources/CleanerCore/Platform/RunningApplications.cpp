@@ -2,40 +2,21 @@
 
 #include "CleanerCore/Platform/BulkListing.hpp"
 #include "CleanerCore/Platform/FileDescriptor.hpp"
+#include "CleanerCore/Platform/InfoPlist.hpp"
+#include "CleanerCore/Platform/SmallFile.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
-
-#include <plist/plist.h>
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <fcntl.h>
-#include <memory>
+#include <map>
 
 namespace CleanerCore::Platform {
 
 namespace {
 
-constexpr std::size_t maximumFileSize = 1 << 20; // an Info.plist or a comm file is far smaller
-
-// The whole of a small file, or nothing when it can't be read.
-std::optional<std::string> readSmallFile(const std::string& path) {
-    SystemCalls& calls = SystemCalls::current();
-    const FileDescriptor fd(calls.openat(AT_FDCWD, path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
-    if (!fd)
-        return std::nullopt;
-    std::string content;
-    std::array<char, 4096> chunk{};
-    for (;;) {
-        const ssize_t got = calls.read(fd.get(), chunk.data(), chunk.size());
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            return std::nullopt;
-        if (got == 0 || content.size() > maximumFileSize)
-            return content;
-        content.append(chunk.data(), static_cast<std::size_t>(got));
-    }
-}
+constexpr std::size_t smallLimit = 64 << 10; // comm, cgroup, status and .flatpak-info are far smaller
 
 std::optional<std::string> linkTarget(const std::string& path) {
     std::array<char, 4096> buffer{};
@@ -51,37 +32,65 @@ std::optional<std::string> linkTarget(const std::string& path) {
     return target;
 }
 
-std::optional<std::string> stringValue(plist_t dictionary, const char* key) {
-    const plist_t node = plist_dict_get_item(dictionary, key);
-    if (node == nullptr || plist_get_node_type(node) != PLIST_STRING)
-        return std::nullopt;
-    std::uint64_t length = 0;
-    const char* value = plist_get_string_ptr(node, &length);
-    if (value == nullptr || length == 0)
-        return std::nullopt;
-    return std::string(value, length);
-}
-
-struct BundleFacts {
-    std::optional<std::string> identifier;
-    std::optional<std::string> name;
-};
-
-BundleFacts readBundle(const std::string& bundlePath) {
-    const auto content = readSmallFile(bundlePath + "/Contents/Info.plist");
-    if (!content || content->empty())
-        return {};
-    plist_t root = nullptr;
-    plist_from_memory(content->data(), static_cast<std::uint32_t>(content->size()), &root);
-    const std::unique_ptr<void, decltype(&plist_free)> owner(root, &plist_free);
-    if (root == nullptr || plist_get_node_type(root) != PLIST_DICT)
-        return {};
-    return {stringValue(root, "CFBundleIdentifier"), stringValue(root, "CFBundleName")};
-}
-
 bool isProcessNumber(std::string_view name) {
     return !name.empty() && std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
 }
+
+std::string_view trimmed(std::string_view text) {
+    while (!text.empty() && (text.front() == ' ' || text.front() == '\t'))
+        text.remove_prefix(1);
+    while (!text.empty() && (text.back() == ' ' || text.back() == '\t' || text.back() == '\r'))
+        text.remove_suffix(1);
+    return text;
+}
+
+// The last component of the unified (cgroup v2) line "0::/user.slice/.../app-x.scope".
+std::optional<std::string> unitOfCgroup(std::string_view cgroup) {
+    while (!cgroup.empty()) {
+        const std::size_t end = cgroup.find('\n');
+        const std::string_view line = cgroup.substr(0, end);
+        cgroup = end == std::string_view::npos ? std::string_view{} : cgroup.substr(end + 1);
+        if (!line.starts_with("0::"))
+            continue;
+        const std::size_t slash = line.rfind('/');
+        const std::string_view unit = line.substr(slash == std::string_view::npos ? 3 : slash + 1);
+        if (unit.starts_with("app-") && (unit.ends_with(".scope") || unit.ends_with(".service")))
+            return std::string(unit);
+    }
+    return std::nullopt;
+}
+
+int parentOf(std::string_view status) {
+    constexpr std::string_view key = "\nPPid:";
+    const std::size_t at = status.find(key);
+    if (at == std::string_view::npos)
+        return 0;
+    const std::string_view value =
+        trimmed(status.substr(at + key.size(), status.find('\n', at + 1) - at - key.size()));
+    int parent = 0;
+    std::from_chars(value.data(), value.data() + value.size(), parent);
+    return parent;
+}
+
+std::string unescapedUnitName(std::string_view text) {
+    std::string out;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        unsigned value = 0;
+        if (text[i] == '\\' && i + 3 < text.size() && text[i + 1] == 'x' &&
+            std::from_chars(text.data() + i + 2, text.data() + i + 4, value, 16).ptr == text.data() + i + 4) {
+            out += static_cast<char>(value);
+            i += 3;
+            continue;
+        }
+        out += text[i];
+    }
+    return out;
+}
+
+struct Process {
+    RunningApplication app;
+    int parent = 0;
+};
 
 } // namespace
 
@@ -99,6 +108,53 @@ std::optional<std::string> enclosingAppBundle(const std::string& executablePath)
     return std::nullopt;
 }
 
+std::optional<std::string> applicationIDOfUnit(std::string_view unit) {
+    if (!unit.starts_with("app-"))
+        return std::nullopt;
+    unit.remove_prefix(4);
+    if (unit.ends_with(".scope")) {
+        unit.remove_suffix(6);
+        // Scopes end in a random part after the last dash.
+        const std::size_t dash = unit.rfind('-');
+        if (dash == std::string_view::npos)
+            return std::nullopt;
+        unit = unit.substr(0, dash);
+    } else if (unit.ends_with(".service")) {
+        unit.remove_suffix(8);
+        unit = unit.substr(0, unit.find('@'));
+    } else {
+        return std::nullopt;
+    }
+    // "gnome-org.example.App": the launcher is the part before the first dash that systemd did
+    // not escape, unless that part is itself an id (reverse DNS holds dots, launchers don't).
+    const std::size_t dash = unit.find('-');
+    if (dash != std::string_view::npos && unit.substr(0, dash).find('.') == std::string_view::npos)
+        unit.remove_prefix(dash + 1);
+    if (unit.empty())
+        return std::nullopt;
+    return unescapedUnitName(unit);
+}
+
+std::optional<std::string> applicationIDOfFlatpakInfo(std::string_view keyFile) {
+    bool inApplication = false;
+    while (!keyFile.empty()) {
+        const std::size_t end = keyFile.find('\n');
+        const std::string_view line = trimmed(keyFile.substr(0, end));
+        keyFile = end == std::string_view::npos ? std::string_view{} : keyFile.substr(end + 1);
+        if (line.starts_with('[')) {
+            inApplication = line == "[Application]";
+            continue;
+        }
+        const std::size_t equals = line.find('=');
+        if (inApplication && equals != std::string_view::npos && trimmed(line.substr(0, equals)) == "name") {
+            const std::string_view name = trimmed(line.substr(equals + 1));
+            if (!name.empty())
+                return std::string(name);
+        }
+    }
+    return std::nullopt;
+}
+
 std::vector<RunningApplication> runningApplications(const std::string& procRoot) {
     std::vector<std::string> pids;
     const FileDescriptor fd(openDirectory(AT_FDCWD, procRoot.c_str()));
@@ -111,25 +167,56 @@ std::vector<RunningApplication> runningApplications(const std::string& procRoot)
                   },
                   {.statFolders = false});
 
-    std::vector<RunningApplication> apps;
+    std::vector<Process> processes;
     for (const std::string& pid : pids) {
         const std::string base = procRoot + "/" + pid;
-        const auto comm = readSmallFile(base + "/comm");
+        const auto comm = readSmallFile(base + "/comm", smallLimit);
         if (!comm)
             continue; // the process ended meanwhile
-        RunningApplication app{std::stoi(pid), *comm, linkTarget(base + "/exe").value_or(""), {}, {}};
+        int number = 0;
+        std::from_chars(pid.data(), pid.data() + pid.size(), number);
+        Process process{{number, *comm, linkTarget(base + "/exe").value_or(""), {}, {}, {}, false},
+                        parentOf(readSmallFile(base + "/status", smallLimit).value_or(""))};
+        RunningApplication& app = process.app;
         if (!app.name.empty() && app.name.back() == '\n')
             app.name.pop_back();
         if (!app.executablePath.empty())
             app.bundlePath = enclosingAppBundle(app.executablePath);
         if (app.bundlePath) {
-            const BundleFacts facts = readBundle(*app.bundlePath);
-            app.bundleIdentifier = facts.identifier;
-            if (facts.name)
-                app.name = *facts.name;
+            if (const auto plist = InfoPlist::read(*app.bundlePath)) {
+                app.bundleIdentifier = plist->text("CFBundleIdentifier");
+                if (const auto name = plist->text("CFBundleName"); name && !name->empty())
+                    app.name = *name;
+            }
+            if (app.bundleIdentifier && app.bundleIdentifier->empty())
+                app.bundleIdentifier.reset();
+            app.isRegular = true;
         }
-        apps.push_back(std::move(app));
+        app.applicationUnit = unitOfCgroup(readSmallFile(base + "/cgroup", smallLimit).value_or(""));
+        if (!app.bundleIdentifier) {
+            if (const auto info = readSmallFile(base + "/root/.flatpak-info", smallLimit))
+                app.bundleIdentifier = applicationIDOfFlatpakInfo(*info);
+        }
+        if (!app.bundleIdentifier && app.applicationUnit)
+            app.bundleIdentifier = applicationIDOfUnit(*app.applicationUnit);
+        processes.push_back(std::move(process));
     }
+
+    // The leader of an application is the process whose parent is not that same application.
+    std::map<int, const std::optional<std::string>*> identifierOf;
+    for (const Process& process : processes)
+        identifierOf.emplace(process.app.pid, &process.app.bundleIdentifier);
+    std::vector<RunningApplication> apps;
+    apps.reserve(processes.size());
+    for (Process& process : processes) {
+        RunningApplication& app = process.app;
+        if (!app.isRegular && app.bundleIdentifier) {
+            const auto parent = identifierOf.find(process.parent);
+            app.isRegular = parent == identifierOf.end() || *parent->second != app.bundleIdentifier;
+        }
+    }
+    for (Process& process : processes)
+        apps.push_back(std::move(process.app));
     return apps;
 }
 

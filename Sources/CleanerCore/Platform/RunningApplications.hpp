@@ -3,6 +3,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace CleanerCore::Platform {
@@ -14,13 +15,19 @@ struct RunningApplication {
     std::string executablePath; // empty when the process's executable can't be read (another user's)
     std::optional<std::string> bundleIdentifier;
     std::optional<std::string> bundlePath; // the innermost ".app" folder holding the executable
+    // The systemd unit the process runs in ("app-gnome-org.example.App-1234.scope"), when it is an
+    // application's unit.
+    std::optional<std::string> applicationUnit;
+    // An application rather than a helper process: it owns a bundle, or it leads a Flatpak instance
+    // or an application's systemd scope (its parent is not part of the same application).
+    bool isRegular = false;
 
     bool operator==(const RunningApplication&) const = default;
 };
 
-// Every process listed under `procRoot` (a /proc-like tree). A bundle and its identifier are only
-// known when the executable lies inside an ".app" folder whose Contents/Info.plist names one; on
-// this platform that is rare, and most processes have neither.
+// Every process listed under `procRoot` (a /proc-like tree). The identifier comes from the ".app"
+// folder holding the executable (its Contents/Info.plist), else from the Flatpak sandbox the
+// process runs in (its root's .flatpak-info), else from the application scope systemd put it in.
 std::vector<RunningApplication> runningApplications(const std::string& procRoot = "/proc");
 
 // The bundle identifiers of the running applications, those without one skipped.
@@ -28,5 +35,13 @@ std::set<std::string> runningBundleIdentifiers(const std::string& procRoot = "/p
 
 // The innermost folder ending in ".app" that holds `executablePath`, if any.
 std::optional<std::string> enclosingAppBundle(const std::string& executablePath);
+
+// The application id of a systemd unit named after the desktop convention:
+// "app[-<launcher>]-<id>-<random>.scope" or "app[-<launcher>]-<id>[@<random>].service", with
+// systemd's \xNN escapes undone. Nothing for any other unit.
+std::optional<std::string> applicationIDOfUnit(std::string_view unit);
+
+// The [Application] name of a Flatpak instance's .flatpak-info key file.
+std::optional<std::string> applicationIDOfFlatpakInfo(std::string_view keyFile);
 
 } // namespace CleanerCore::Platform

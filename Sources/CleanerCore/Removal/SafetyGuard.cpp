@@ -1,6 +1,7 @@
 #include "CleanerCore/Removal/SafetyGuard.hpp"
 
 #include "CleanerCore/Display/CoreL10n.hpp"
+#include "CleanerCore/Platform/InstalledFlatpaks.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
 
 #include <algorithm>
@@ -215,6 +216,44 @@ bool inMovedHomeTrash(std::string_view path, std::string_view parent) {
     return path == trash || parent == trash || below(trash, path);
 }
 
+// Where this platform's applications live. The folders that hold AppImages stay (the files in
+// them may go); ~/.var/app, where Flatpaks keep their data, stays itself; and no Flatpak
+// installation is ever touched by removal, since a Flatpak is uninstalled by its installation.
+// Only the installation's "overrides" folder holds removable things: one settings file per app.
+// (~/Applications, ~/.local/bin and ~/.var are in the tables above.)
+constexpr std::array<std::string_view, 2> kAppHoldingHomeFolders{"bin", ".var/app"};
+constexpr std::string_view kUserFlatpakInstallation = ".local/share/flatpak";
+
+const std::vector<std::string>& flatpakInstallationFolders() {
+    static const std::vector<std::string> folders = [] {
+        std::vector<std::string> found;
+        for (const Platform::FlatpakInstallationPath& installation : Platform::flatpakInstallations())
+            found.push_back(folded(installation.path));
+        return found;
+    }();
+    return folders;
+}
+
+// The installation, what it holds, and every folder above it.
+bool inFlatpakInstallation(std::string_view path, std::string_view installation) {
+    return (inTree(path, installation) && !below(path, std::string(installation) + "/overrides")) ||
+           below(installation, path);
+}
+
+bool appPlaceProtected(std::string_view path, std::span<const std::string> homes) {
+    for (const std::string& home : homes) {
+        for (std::string_view folder : kAppHoldingHomeFolders)
+            if (path == join(home, folder))
+                return true;
+        if (inFlatpakInstallation(path, join(home, kUserFlatpakInstallation)))
+            return true;
+    }
+    const std::vector<std::string>& installations = flatpakInstallationFolders();
+    return std::any_of(installations.begin(), installations.end(), [&](const std::string& installation) {
+        return inFlatpakInstallation(path, installation);
+    });
+}
+
 std::string realOrSelf(const std::string& path) {
     char buffer[PATH_MAX];
     if (Platform::SystemCalls::current().realpath(path.c_str(), buffer))
@@ -317,7 +356,8 @@ bool isProtectedPath(std::string_view path, std::span<const std::string> homes,
     for (const std::string& bundle : bundles)
         if (path == bundle || below(bundle, path) || below(path, bundle))
             return true;
-    return linuxProtected(path, parts, homes) || inMovedHomeTrash(path, parent);
+    return linuxProtected(path, parts, homes) || inMovedHomeTrash(path, parent) ||
+           appPlaceProtected(path, homes);
 }
 
 namespace {
