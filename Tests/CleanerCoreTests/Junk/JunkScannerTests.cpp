@@ -40,38 +40,18 @@ struct JunkHomeScan : testing::Test {
 
 } // namespace
 
-TEST(JunkRule, DefaultTableKeepsItsOrderSourcesAndChoices) {
-    const auto& rules = JunkRule::defaults();
-    std::vector<std::string> ids, symbols;
-    for (const JunkRule& rule : rules) {
+// The order is the channel's rows; only the hidden cache folder waits to be chosen, and every rule
+// has its texts.
+TEST(JunkRule, DefaultTableKeepsItsOrderAndChoices) {
+    std::vector<std::string> ids;
+    for (const JunkRule& rule : JunkRule::defaults()) {
         ids.push_back(rule.id);
-        symbols.push_back(rule.symbol);
         EXPECT_EQ(rule.selectedByDefault, rule.id != "dot-cache") << rule.id;
         EXPECT_THAT(rule.title, testing::Not(testing::StartsWith("core."))) << "no text for " << rule.id;
         EXPECT_THAT(rule.summary, testing::Not(testing::StartsWith("core."))) << "no text for " << rule.id;
     }
     EXPECT_THAT(ids, ElementsAre("user-caches", "user-logs", "xcode", "dev-caches", "dot-cache",
                                  "incomplete-downloads"));
-    EXPECT_THAT(symbols, ElementsAre("internaldrive", "doc.text", "hammer", "shippingbox", "terminal",
-                                     "arrow.down.circle"));
-
-    EXPECT_THAT(rules[0].sources,
-                ElementsAre(Source::contents("Library/Caches", JunkRule::protectedCaches())));
-    EXPECT_EQ(JunkRule::protectedCaches().size(), 8u);
-    EXPECT_TRUE(JunkRule::protectedCaches().contains("com.apple.HomeKit"));
-    const std::string xcode = "Library/Developer/Xcode/";
-    EXPECT_THAT(rules[2].sources, ElementsAre(Source::contents(xcode + "DerivedData"),
-                                              Source::contents(xcode + "iOS DeviceSupport"),
-                                              Source::contents(xcode + "watchOS DeviceSupport"),
-                                              Source::contents(xcode + "macOS DeviceSupport"),
-                                              Source::contents(xcode + "visionOS DeviceSupport"),
-                                              Source::folder("Library/Developer/CoreSimulator/Caches")));
-    EXPECT_THAT(rules[3].sources,
-                ElementsAre(Source::folder(".npm/_cacache"), Source::folder("Library/pnpm/store"),
-                            Source::folder(".bun/install/cache"), Source::folder(".gradle/caches"),
-                            Source::folder(".cargo/registry/cache")));
-    EXPECT_THAT(rules[5].sources, ElementsAre(Source::files("Downloads", {"download", "crdownload", "part",
-                                                                          "partial", "opdownload"})));
 }
 
 TEST(JunkRule, TextsStayInTheLanguageOfFirstUse) {

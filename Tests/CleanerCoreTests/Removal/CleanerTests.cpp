@@ -196,21 +196,6 @@ TEST_F(CleanerTest, DeepTreesGoWithoutExhaustingTheStackOrDescriptors) {
     EXPECT_FALSE(present(top));
 }
 
-TEST_F(CleanerTest, TrashKeepsAnInfoFileWithTheEncodedPathAndDate) {
-    const fs::path item = tree.file("home/Downloads/r\u00e9sum\u00e9 final%.pdf", 7);
-    tree.file("home/Downloads/other/r\u00e9sum\u00e9 final%.pdf", 7);
-    const RemovalReport first = remove(RemovalMode::trash, {item});
-    const RemovalReport second =
-        remove(RemovalMode::trash, {home / "Downloads/other/r\u00e9sum\u00e9 final%.pdf"});
-    EXPECT_EQ(first.removed.size() + second.removed.size(), 2u);
-    EXPECT_TRUE(present(trashFiles() / "r\u00e9sum\u00e9 final%.pdf"));
-    EXPECT_TRUE(present(trashFiles() / "r\u00e9sum\u00e9 final% 2.pdf")) << "a taken name gets a number";
-    const std::string info = readText(trashInfo() / "r\u00e9sum\u00e9 final%.pdf.trashinfo");
-    const std::string encodedFolder = fs::canonical(home / "Downloads").string();
-    EXPECT_EQ(info.substr(0, info.find("DeletionDate=")),
-              "[Trash Info]\nPath=" + encodedFolder + "/r%C3%A9sum%C3%A9%20final%25.pdf\n");
-}
-
 TEST_F(CleanerTest, ABatchFlushesEveryInfoFileBeforeAnyItemMovesAndSurvivesATakenName) {
     std::vector<fs::path> paths;
     for (int i = 0; i < 20; ++i)
