@@ -17,6 +17,7 @@ public:
 
     NameRule openFault;                                       // openat(name)
     NameRule statxFault;                                      // statx(name)
+    std::function<void(struct ::statx* out)> afterStatx;      // may rewrite what the kernel said
     std::function<int()> listFault;                           // getdents64
     std::function<void(void* buffer, long filled)> afterList; // may rewrite what the kernel returned
 
@@ -66,7 +67,10 @@ public:
         ++stats;
         if (const int error = statxFault ? statxFault(path) : 0)
             return fail(error);
-        return SystemCalls::statx(dirfd, path, flags, mask, out);
+        const int result = SystemCalls::statx(dirfd, path, flags, mask, out);
+        if (result == 0 && afterStatx)
+            afterStatx(out);
+        return result;
     }
 
     int unlinkat(int dirfd, const char* path, int flags) override {

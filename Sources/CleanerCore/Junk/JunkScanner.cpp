@@ -4,31 +4,47 @@
 #include "CleanerCore/Files/FileSize.hpp"
 #include "CleanerCore/Platform/BulkListing.hpp"
 #include "CleanerCore/Platform/FileDescriptor.hpp"
+#include "CleanerCore/Platform/MountRoots.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
 
 #include <algorithm>
 #include <cctype>
+#include <climits>
 #include <fcntl.h>
+#include <sys/stat.h>
 
 namespace CleanerCore {
 
 namespace {
 
-// The names in a folder, in the order the file system lists them; none when it can't be read.
-std::vector<std::string> listing(const URL& folder) {
+// The names in an open folder, in the order the file system lists them; none when it can't be read.
+std::vector<std::string> listing(int folderFd) {
     std::vector<std::string> names;
-    const Platform::FileDescriptor fd(Platform::openDirectory(AT_FDCWD, folder.path().c_str()));
-    if (!fd)
-        return names;
-    Platform::listDirectory(fd.get(),
-                            [&names](const Platform::ListedEntry& entry) { names.emplace_back(entry.name); },
-                            {.statFolders = false});
+    if (folderFd >= 0)
+        Platform::listDirectory(
+            folderFd, [&names](const Platform::ListedEntry& entry) { names.emplace_back(entry.name); },
+            {.statFolders = false});
     return names;
 }
 
 bool exists(const URL& url) {
     struct stat info {};
     return Platform::SystemCalls::current().fstatat(AT_FDCWD, url.path().c_str(), &info, 0) == 0;
+}
+
+// A source folder that is a link to a folder stands for that folder: many people keep ~/.cache or
+// ~/Downloads elsewhere. Its items are then named where they really are, so that the guard judges
+// the real place; nothing inside is ever followed.
+URL sourceFolder(const URL& base) {
+    Platform::SystemCalls& calls = Platform::SystemCalls::current();
+    struct stat info {};
+    if (calls.fstatat(AT_FDCWD, base.path().c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0 || !S_ISLNK(info.st_mode))
+        return base;
+    char real[PATH_MAX];
+    if (!calls.realpath(base.path().c_str(), real) ||
+        calls.fstatat(AT_FDCWD, real, &info, AT_SYMLINK_NOFOLLOW) != 0 || !S_ISDIR(info.st_mode))
+        return base;
+    return URL::file(real);
 }
 
 std::string lowercased(std::string text) {
@@ -38,21 +54,25 @@ std::string lowercased(std::string text) {
 
 } // namespace
 
+// A mount point is never junk: what is mounted there belongs to another file system (a bind mount
+// of system files, a tmpfs), however it got below the home.
 std::vector<URL> JunkScanner::candidates(const JunkRule::Source& source) const {
     using Kind = JunkRule::Source::Kind;
-    const URL base = home.appending(source.path);
+    const URL base = sourceFolder(home.appending(source.path));
+    Platform::MountRoots mounts;
     std::vector<URL> found;
     if (source.kind == Kind::folder) {
-        if (exists(base))
+        if (exists(base) && mounts.test(AT_FDCWD, base.path().c_str()) == 0)
             found.push_back(base);
         return found;
     }
-    for (const std::string& name : listing(base)) {
+    const Platform::FileDescriptor folder(Platform::openDirectory(AT_FDCWD, base.path().c_str()));
+    for (const std::string& name : listing(folder.get())) {
         const URL entry = base.appending(name);
         const bool keep = source.kind == Kind::contents
                               ? name != ".DS_Store" && !source.names.contains(name)
                               : source.names.contains(lowercased(entry.pathExtension()));
-        if (keep)
+        if (keep && mounts.test(folder.get(), name.c_str()) == 0)
             found.push_back(entry);
     }
     return found;

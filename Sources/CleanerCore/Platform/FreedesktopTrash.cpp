@@ -1,6 +1,7 @@
 #include "CleanerCore/Platform/FreedesktopTrash.hpp"
 
 #include "CleanerCore/Files/URL.hpp"
+#include "CleanerCore/Platform/MountRoots.hpp"
 #include "CleanerCore/Platform/NoFollow.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
 
@@ -109,13 +110,14 @@ FreedesktopTrash::Bin& FreedesktopTrash::homeBin() {
         return *home;
     home.emplace();
     SystemCalls& calls = SystemCalls::current();
+    const std::string trashPath = dataHome + "/Trash";
     // The data home may be missing on a fresh account: make it, then never go through a link below it.
     std::string made;
     for (std::size_t slash = dataHome.find('/', 1);; slash = dataHome.find('/', slash + 1)) {
         made = dataHome.substr(0, slash);
         if (retryingInterrupted([&] { return calls.mkdirat(AT_FDCWD, made.c_str(), 0700); }) != 0 &&
             errno != EEXIST) {
-            home->error = errno;
+            home->problem = RemovalResult::noTrash(errno, trashPath);
             return *home;
         }
         if (slash == std::string::npos)
@@ -125,13 +127,15 @@ FreedesktopTrash::Bin& FreedesktopTrash::homeBin() {
     FileDescriptor base(calls.realpath(dataHome.c_str(), real) ? openFolderNoFollow(real) : -1);
     struct stat info;
     if (!base || calls.fstat(base.get(), &info) != 0) {
-        home->error = errno;
+        home->problem = RemovalResult::noTrash(errno, trashPath);
         return *home;
     }
     // Items on this volume go to the home trash or nowhere, even when it can't be made.
     homeDevice = info.st_dev;
     FileDescriptor trash(ensureFolder(base.get(), "Trash"));
-    home->error = trash ? openBin(trash.get(), home->files, home->info) : errno;
+    const int error = trash ? openBin(trash.get(), home->files, home->info) : errno;
+    if (error)
+        home->problem = RemovalResult::noTrash(error, trashPath);
     return *home;
 }
 
@@ -143,12 +147,14 @@ FreedesktopTrash::Bin& FreedesktopTrash::volumeBin(dev_t device, const std::stri
     bin.topDirectory = MountTable::topDirectory(path, mounts);
     FileDescriptor top(openFolderNoFollow(bin.topDirectory));
     struct stat info;
-    if (!top || calls.fstat(top.get(), &info) != 0 || info.st_dev != device) {
-        bin.error = EXDEV;
-        return bin;
-    }
     const uid_t uid = ::getuid();
     const std::string uidName = std::to_string(uid);
+    const std::string ownName = ".Trash-" + uidName;
+    const std::string ownPath = (bin.topDirectory == "/" ? "" : bin.topDirectory) + "/" + ownName;
+    if (!top || calls.fstat(top.get(), &info) != 0 || info.st_dev != device) {
+        bin.problem = RemovalResult::noTrash(EXDEV, ownPath);
+        return bin;
+    }
     const auto ownedFolder = [&](int fd) {
         struct stat folder;
         return calls.fstat(fd, &folder) == 0 && S_ISDIR(folder.st_mode) && folder.st_uid == uid &&
@@ -164,7 +170,6 @@ FreedesktopTrash::Bin& FreedesktopTrash::volumeBin(dev_t device, const std::stri
             return bin;
     }
     // $topdir/.Trash-$uid, the user's own.
-    const std::string ownName = ".Trash-" + uidName;
     FileDescriptor own(ensureFolder(top.get(), ownName.c_str()));
     if (own && ownedFolder(own.get()) && openBin(own.get(), bin.files, bin.info) == 0)
         return bin;
@@ -172,7 +177,8 @@ FreedesktopTrash::Bin& FreedesktopTrash::volumeBin(dev_t device, const std::stri
     bin.files.reset();
     bin.info.reset();
     // A volume that can't take writes says so; any other reason means it has no trash we may use.
-    bin.error = (error == EROFS || error == ENOSPC || error == EDQUOT) ? error : EXDEV;
+    bin.problem = (error == EROFS || error == ENOSPC || error == EDQUOT) ? RemovalResult::of(error)
+                                                                         : RemovalResult::noTrash(EXDEV, ownPath);
     return bin;
 }
 
@@ -184,51 +190,53 @@ std::shared_ptr<FileDescriptor> FreedesktopTrash::openParent(const std::string& 
     return cachedParent;
 }
 
-int FreedesktopTrash::trash(const std::string& path) {
+RemovalResult FreedesktopTrash::trash(const std::string& path) {
     return trashAll({path}).front();
 }
 
-std::vector<int> FreedesktopTrash::trashAll(const std::vector<std::string>& paths) {
-    std::vector<int> results(paths.size(), 0);
+std::vector<RemovalResult> FreedesktopTrash::trashAll(const std::vector<std::string>& paths) {
+    std::vector<RemovalResult> results(paths.size());
     std::vector<Pending> pending;
     pending.reserve(paths.size());
     for (std::size_t i = 0; i < paths.size(); ++i) {
         Pending item{.index = i, .path = paths[i]};
         results[i] = prepare(item);
-        if (results[i] == 0)
+        if (results[i].error == 0)
             pending.push_back(std::move(item));
     }
     makeDurable(pending, results);
     for (Pending& item : pending)
-        results[item.index] = place(item);
+        results[item.index] = RemovalResult::of(place(item));
     return results;
 }
 
 // Finds the item and its trash, and writes its info file under a free name (not yet flushed).
-int FreedesktopTrash::prepare(Pending& item) {
+RemovalResult FreedesktopTrash::prepare(Pending& item) {
     SystemCalls& calls = SystemCalls::current();
     const std::size_t slash = item.path.rfind('/');
     if (slash == std::string::npos || slash + 1 == item.path.size())
-        return EINVAL;
+        return RemovalResult::of(EINVAL);
     item.name = item.path.substr(slash + 1);
     item.parent = openParent(slash == 0 ? "/" : item.path.substr(0, slash));
     if (!*item.parent)
-        return errno;
+        return RemovalResult::of(errno);
     struct stat entry, folder;
     if (retryingInterrupted([&] {
             return calls.fstatat(item.parent->get(), item.name.c_str(), &entry, AT_SYMLINK_NOFOLLOW);
         }) != 0 ||
         calls.fstat(item.parent->get(), &folder) != 0)
-        return errno;
-    if (S_ISDIR(entry.st_mode) && entry.st_dev != folder.st_dev)
-        return EBUSY;
+        return RemovalResult::of(errno);
+    // A mount point would drag a whole file system along (or refuse to move): it is never trashed.
+    MountRoots mounts;
+    if (entry.st_dev != folder.st_dev || mounts.test(item.parent->get(), item.name.c_str()) == 1)
+        return RemovalResult::mountAt(item.path);
     Bin& homeTrash = homeBin();
-    if (!homeDevice)
-        return homeTrash.error; // without the home's volume known, no trash can be chosen safely
+    if (!homeDevice) // without the home's volume known, no trash can be chosen safely
+        return homeTrash.problem.error ? homeTrash.problem : RemovalResult::noTrash(EXDEV, dataHome + "/Trash");
     item.bin = entry.st_dev == *homeDevice ? &homeTrash : &volumeBin(entry.st_dev, item.path);
-    if (item.bin->error)
-        return item.bin->error;
-    return writeInfo(item, 0);
+    if (item.bin->problem.error)
+        return item.bin->problem;
+    return RemovalResult::of(writeInfo(item, 0));
 }
 
 int FreedesktopTrash::writeInfo(Pending& item, int firstAttempt) {
@@ -265,7 +273,7 @@ int FreedesktopTrash::writeInfo(Pending& item, int firstAttempt) {
 
 // The info files must be on disk before any item moves: a few are flushed one by one, a large
 // batch with one flush of each volume.
-void FreedesktopTrash::makeDurable(std::vector<Pending>& pending, std::vector<int>& results) {
+void FreedesktopTrash::makeDurable(std::vector<Pending>& pending, std::vector<RemovalResult>& results) {
     SystemCalls& calls = SystemCalls::current();
     std::map<const Bin*, std::vector<Pending*>> byBin;
     for (Pending& item : pending)
@@ -275,20 +283,20 @@ void FreedesktopTrash::makeDurable(std::vector<Pending>& pending, std::vector<in
         if (items.size() > kFlushOneByOne) {
             if (retryingInterrupted([&] { return calls.syncfs(items.front()->info.get()); }) != 0)
                 for (Pending* item : items)
-                    results[item->index] = errno;
+                    results[item->index] = RemovalResult::of(errno);
         } else {
             for (Pending* item : items)
                 if (retryingInterrupted([&] { return calls.fsync(item->info.get()); }) != 0)
-                    results[item->index] = errno;
+                    results[item->index] = RemovalResult::of(errno);
         }
         for (Pending* item : items) {
-            if (item->info && calls.close(item->info.release()) != 0 && !results[item->index])
-                results[item->index] = errno;
-            if (results[item->index])
+            if (item->info && calls.close(item->info.release()) != 0 && results[item->index].error == 0)
+                results[item->index] = RemovalResult::of(errno);
+            if (results[item->index].error != 0)
                 dropInfo(*item);
         }
     }
-    std::erase_if(pending, [&](const Pending& item) { return results[item.index] != 0; });
+    std::erase_if(pending, [&](const Pending& item) { return results[item.index].error != 0; });
 }
 
 // Moves the item under the name its info file holds; a name taken meanwhile starts over under the

@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Platform/FileDescriptor.hpp"
 #include "CleanerCore/Platform/MountTable.hpp"
+#include "CleanerCore/Platform/RemovalResult.hpp"
 
 #include <chrono>
 #include <map>
@@ -26,12 +27,13 @@ public:
     // $XDG_DATA_HOME when it is set to an absolute path, else home + "/.local/share".
     static std::string dataHomeFor(const std::string& home);
 
-    // Moves the item at the absolute `path` into the trash. 0, or an errno: ENOENT when nothing is
-    // there, EXDEV when its volume has no trash that can be used, EBUSY for a mount point.
-    int trash(const std::string& path);
+    // Moves the item at the absolute `path` into the trash. ENOENT stands only for an item that is
+    // not there; a trash folder that can't be made or used is named in the result, and so is an
+    // item that is a mount point (never moved).
+    RemovalResult trash(const std::string& path);
     // The same for many items, faster: the info files of all of them are written and flushed in
     // one go before any item moves. One result per path, in order.
-    std::vector<int> trashAll(const std::vector<std::string>& paths);
+    std::vector<RemovalResult> trashAll(const std::vector<std::string>& paths);
 
     // The text of an info file.
     static std::string infoText(const std::string& originalPath, std::chrono::system_clock::time_point when);
@@ -40,7 +42,7 @@ private:
     struct Bin {
         FileDescriptor files, info;
         std::string topDirectory; // empty for the home trash, whose info holds absolute paths
-        int error = 0;            // why this volume's trash can't be used
+        RemovalResult problem;    // why this volume's trash can't be used
     };
 
     struct Pending {
@@ -55,9 +57,9 @@ private:
     Bin& homeBin();
     Bin& volumeBin(dev_t device, const std::string& path);
     std::shared_ptr<FileDescriptor> openParent(const std::string& parent);
-    int prepare(Pending& item);
+    RemovalResult prepare(Pending& item);
     int writeInfo(Pending& item, int firstAttempt);
-    void makeDurable(std::vector<Pending>& pending, std::vector<int>& results);
+    void makeDurable(std::vector<Pending>& pending, std::vector<RemovalResult>& results);
     int place(Pending& item);
     void dropInfo(Pending& item);
 

@@ -2,12 +2,14 @@
 
 #include "CleanerCore/Platform/BulkListing.hpp"
 #include "CleanerCore/Platform/FileDescriptor.hpp"
+#include "CleanerCore/Platform/MountRoots.hpp"
 #include "CleanerCore/Platform/NoFollow.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
 
 #include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 #include <vector>
 
@@ -26,13 +28,18 @@ struct Folder {
     std::vector<std::string> childFolders; // still to enter
 };
 
+dev_t deviceOf(const struct ::statx& info) {
+    return makedev(info.stx_dev_major, info.stx_dev_minor);
+}
+
 class Removal {
 public:
-    Removal(int parentFd, dev_t device) : parent(parentFd), rootDevice(device) {}
+    Removal(int parentFd, dev_t device, std::string_view rootPath, MountRoots& roots)
+        : parent(parentFd), rootDevice(device), path(rootPath), mounts(roots) {}
 
-    int run(FileDescriptor rootFd, const char* name) {
+    RemovalResult run(FileDescriptor rootFd, const char* name) {
         if (!push(std::move(rootFd), name))
-            return firstError ? firstError : ELOOP;
+            return result.error ? result : RemovalResult::of(ELOOP);
         while (!stack.empty()) {
             Folder& top = stack.back();
             if (!top.childFolders.empty()) {
@@ -42,28 +49,46 @@ public:
                 continue;
             }
             if (!leave())
-                return ELOOP;
+                return RemovalResult::of(ELOOP);
         }
-        return firstError;
+        return result;
     }
 
 private:
     void note(int error) {
-        if (!firstError)
-            firstError = error;
+        if (!result.error)
+            result = RemovalResult::of(error);
     }
 
+    // What is mounted there is not ours: it stays, and so do the folders above it.
+    void noteMount(std::string place) {
+        if (!result.error)
+            result = RemovalResult::mountAt(std::move(place));
+    }
+
+    // The full path of `name` inside the folder on top of the stack (the item itself when empty).
+    std::string pathOf(const std::string& name) const {
+        std::string out(path);
+        for (std::size_t i = 1; i < stack.size(); ++i)
+            out += "/" + stack[i].name;
+        if (!stack.empty())
+            out += "/" + name;
+        return out;
+    }
+
+    // Checked on the open descriptor, so a mount that appears after the listing is still seen.
     bool push(FileDescriptor fd, std::string name) {
-        struct stat info;
-        if (calls.fstat(fd.get(), &info) != 0) {
+        struct ::statx info;
+        const int mounted = mounts.test(fd.get(), "", &info);
+        if (mounted < 0) {
             note(errno);
             return false;
         }
-        if (info.st_dev != rootDevice) {
-            note(EXDEV); // a mount point inside the tree: what is mounted there is not ours
+        if (mounted || deviceOf(info) != rootDevice) {
+            noteMount(pathOf(name));
             return false;
         }
-        stack.push_back(Folder{std::move(fd), info.st_dev, info.st_ino, std::move(name), {}});
+        stack.push_back(Folder{std::move(fd), deviceOf(info), static_cast<ino_t>(info.stx_ino), std::move(name), {}});
         if (stack.size() - firstOpen > kOpenFolderBudget)
             stack[firstOpen++].fd.reset();
         list(stack.back());
@@ -82,10 +107,13 @@ private:
                 }
                 if (retryingInterrupted([&] { return calls.unlinkat(fd, entry.name.data(), 0); }) == 0)
                     return;
-                if (errno == EISDIR) // changed type since listed
+                if (errno == EISDIR) { // changed type since listed
                     folder.childFolders.emplace_back(entry.name);
-                else if (errno != ENOENT)
+                } else if (errno == EBUSY && mounts.test(fd, entry.name.data()) == 1) {
+                    noteMount(pathOf(std::string(entry.name))); // a file bind-mounted here
+                } else if (errno != ENOENT) {
                     note(errno);
+                }
             },
             ListingOptions{.statFolders = false, .statFiles = false});
         if (!complete)
@@ -124,7 +152,7 @@ private:
         done.fd.reset();
         if (retryingInterrupted([&] { return calls.unlinkat(above, done.name.c_str(), AT_REMOVEDIR); }) !=
                 0 &&
-            errno != ENOENT && !(errno == ENOTEMPTY && firstError))
+            errno != ENOENT && !(errno == ENOTEMPTY && result.error))
             note(errno);
         return true;
     }
@@ -146,33 +174,44 @@ private:
     SystemCalls& calls = SystemCalls::current();
     int parent;
     dev_t rootDevice;
+    std::string_view path;
+    MountRoots& mounts;
     std::vector<Folder> stack;
     std::size_t firstOpen = 0; // folders below this index have closed their descriptors
-    int firstError = 0;
+    RemovalResult result;
 };
+
+RemovalResult unlinkEntry(int parentFd, const char* name) {
+    SystemCalls& calls = SystemCalls::current();
+    return RemovalResult::of(
+        retryingInterrupted([&] { return calls.unlinkat(parentFd, name, 0); }) == 0 ? 0 : errno);
+}
 
 } // namespace
 
-int removeTree(int parentFd, const char* name) {
+RemovalResult removeTree(int parentFd, const char* name, std::string_view path) {
     SystemCalls& calls = SystemCalls::current();
-    struct stat info;
-    if (retryingInterrupted([&] { return calls.fstatat(parentFd, name, &info, AT_SYMLINK_NOFOLLOW); }) != 0)
-        return errno;
-    if (!S_ISDIR(info.st_mode))
-        return retryingInterrupted([&] { return calls.unlinkat(parentFd, name, 0); }) == 0 ? 0 : errno;
-    struct stat parentInfo;
-    if (calls.fstat(parentFd, &parentInfo) != 0)
-        return errno;
-    if (parentInfo.st_dev != info.st_dev)
-        return EBUSY; // a mount point: what is mounted there is not removed through it
+    MountRoots mounts;
+    struct ::statx info, parentInfo;
+    const int mounted = mounts.test(parentFd, name, &info);
+    if (mounted < 0)
+        return RemovalResult::of(errno);
+    if (retryingInterrupted([&] { return calls.statx(parentFd, "", AT_EMPTY_PATH, STATX_TYPE, &parentInfo); }) !=
+        0)
+        return RemovalResult::of(errno);
+    // Something mounted on the item itself, a file bind mount included, is never a removal target.
+    if (mounted || deviceOf(info) != deviceOf(parentInfo))
+        return RemovalResult::mountAt(std::string(path));
+    if (!S_ISDIR(info.stx_mode))
+        return unlinkEntry(parentFd, name);
     const int fd = openDirectory(parentFd, name);
     if (fd < 0) {
         if (errno != ELOOP && errno != ENOTDIR)
-            return errno;
+            return RemovalResult::of(errno);
         // Swapped for a link or a file since it was looked at: remove that entry itself.
-        return retryingInterrupted([&] { return calls.unlinkat(parentFd, name, 0); }) == 0 ? 0 : errno;
+        return unlinkEntry(parentFd, name);
     }
-    return Removal(parentFd, info.st_dev).run(FileDescriptor(fd), name);
+    return Removal(parentFd, deviceOf(info), path, mounts).run(FileDescriptor(fd), name);
 }
 
 } // namespace CleanerCore::Platform

@@ -23,6 +23,8 @@ public:
     const std::optional<URL>& ownBundle() const { return ownBundle_; }
 
     // Synchronous; never throws. Items are handled in order and one failure never stops the rest.
+    // An item counts as already gone (removed, no bytes) only when nothing stands at its place; an
+    // item inside another selected one goes with it and adds no bytes of its own. Mount points stay.
     RemovalReport remove(std::span<const CleanupItem> items) const;
 
 private:

@@ -8,11 +8,14 @@
 #include <array>
 #include <climits>
 #include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <unicode/locid.h>
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
+#include <unicode/utf8.h>
 
 namespace CleanerCore::SafetyGuard {
 namespace {
@@ -175,7 +178,7 @@ bool isVolumeTrashFolder(const std::vector<std::string_view>& parts) {
 }
 
 bool linuxProtected(std::string_view path, const std::vector<std::string_view>& parts,
-                    std::span<const std::string> homes) {
+                    std::span<const std::string> homes, bool belowAHome) {
     const Folded& t = tables();
     const std::string_view parent = parentOf(path);
     if (anyTree(path, t.linuxTrees) || anyEquals(parent, t.linuxChildren))
@@ -184,8 +187,6 @@ bool linuxProtected(std::string_view path, const std::vector<std::string_view>& 
         return true;
     if (isVolumeTrashFolder(parts))
         return true;
-    const bool belowAHome =
-        std::any_of(homes.begin(), homes.end(), [&](const std::string& home) { return below(path, home); });
     for (const std::string& root : t.linuxUserRoots)
         if (below(path, root) && !belowAHome)
             return true;
@@ -261,9 +262,52 @@ std::string realOrSelf(const std::string& path) {
     return normalized(path);
 }
 
+// The path as written and with its links resolved: a home or bundle may be reached through a link.
 std::vector<std::string> bothSpellings(const URL& url) {
     const std::string path = normalized(standardizedPath(url.path()));
-    return {folded(path), folded(realOrSelf(path))};
+    return {path, realOrSelf(path)};
+}
+
+std::vector<std::string> foldedAll(const std::vector<std::string>& paths) {
+    std::vector<std::string> out;
+    for (const std::string& path : paths)
+        out.push_back(folded(path));
+    return out;
+}
+
+// `path` cut after as many components as `like` has.
+std::string_view sameDepthPrefix(std::string_view path, std::string_view like) {
+    std::size_t end = 0;
+    for (std::size_t k = pathComponents(like).size(); k > 0 && end != std::string_view::npos; --k) {
+        const std::size_t start = path.find_first_not_of('/', end);
+        end = start == std::string_view::npos ? start : path.find('/', start);
+    }
+    return end == std::string_view::npos ? path : path.substr(0, end);
+}
+
+// Whether `path` lies below one of the homes as the file system sees it. The same bytes are enough.
+// A spelling that only folds to a home (other case, other Unicode form) must lead to that very
+// home's folder on disk: on a case-sensitive file system "/home/Ana" is someone else's. Where
+// nothing stands at that spelling, nothing of anyone's can be removed through it, and text decides.
+bool belowOwnHome(std::string_view path, const std::vector<std::string>& homes) {
+    Platform::SystemCalls& calls = Platform::SystemCalls::current();
+    for (const std::string& home : homes) {
+        if (below(path, home))
+            return true;
+        if (!below(folded(path), folded(home)))
+            continue;
+        const std::string prefix(sameDepthPrefix(path, home));
+        struct stat spelled, real;
+        if (calls.fstatat(AT_FDCWD, prefix.c_str(), &spelled, 0) != 0) {
+            if (errno == ENOENT || errno == ENOTDIR)
+                return true;
+            continue;
+        }
+        if (calls.fstatat(AT_FDCWD, home.c_str(), &real, 0) == 0 && spelled.st_dev == real.st_dev &&
+            spelled.st_ino == real.st_ino)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -296,16 +340,46 @@ std::string normalized(std::string_view path) {
     return std::string(path);
 }
 
-std::string folded(std::string_view path) {
+namespace {
+
+// Lower case of NFC of text that is valid UTF-8.
+void foldValid(std::string_view text, std::string& out) {
+    if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
+        for (char c : text)
+            out += c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+        return;
+    }
     UErrorCode status = U_ZERO_ERROR;
     const icu::Normalizer2* nfc = icu::Normalizer2::getNFCInstance(status);
-    const icu::UnicodeString text = icu::UnicodeString::fromUTF8(normalized(path));
-    icu::UnicodeString composed = U_SUCCESS(status) ? nfc->normalize(text, status) : text;
+    const icu::UnicodeString source =
+        icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
+    icu::UnicodeString composed = U_SUCCESS(status) ? nfc->normalize(source, status) : source;
     if (U_FAILURE(status))
-        composed = text;
+        composed = source;
     composed.toLower(icu::Locale::getRoot());
-    std::string out;
     composed.toUTF8String(out);
+}
+
+} // namespace
+
+// Bytes that are no UTF-8 stay as they are: names that differ only there must not fold alike.
+std::string folded(std::string_view path) {
+    const std::string text = normalized(path);
+    const auto length = static_cast<int32_t>(text.size());
+    std::string out;
+    out.reserve(text.size());
+    int32_t run = 0;
+    for (int32_t i = 0; i < length;) {
+        const int32_t start = i;
+        UChar32 c;
+        U8_NEXT(text.data(), i, length, c);
+        if (c >= 0)
+            continue;
+        foldValid(std::string_view(text).substr(run, start - run), out);
+        out.append(text, start, i - start);
+        run = i;
+    }
+    foldValid(std::string_view(text).substr(run), out);
     return out;
 }
 
@@ -318,8 +392,12 @@ std::string resolvingParent(std::string_view path) {
     return parent == "/" ? "/" + last : parent + "/" + last;
 }
 
+namespace {
+
+// The protected test on a folded path, given folded homes and bundles; first hit wins.
+// `belowAHome` says whether the path lies below one of the homes, as the file system sees it.
 bool isProtectedPath(std::string_view path, std::span<const std::string> homes,
-                     std::span<const std::string> bundles) {
+                     std::span<const std::string> bundles, bool belowAHome) {
     const Folded& t = tables();
     const std::vector<std::string_view> parts = pathComponents(path);
     if (parts.size() < 2)
@@ -350,17 +428,14 @@ bool isProtectedPath(std::string_view path, std::span<const std::string> homes,
             if (inTree(path, join(home, entry)))
                 return true;
     }
-    if (path.starts_with("/users/") && !path.starts_with("/users/shared/") &&
-        std::none_of(homes.begin(), homes.end(), [&](const std::string& home) { return below(path, home); }))
+    if (path.starts_with("/users/") && !path.starts_with("/users/shared/") && !belowAHome)
         return true;
     for (const std::string& bundle : bundles)
         if (path == bundle || below(bundle, path) || below(path, bundle))
             return true;
-    return linuxProtected(path, parts, homes) || inMovedHomeTrash(path, parent) ||
+    return linuxProtected(path, parts, homes, belowAHome) || inMovedHomeTrash(path, parent) ||
            appPlaceProtected(path, homes);
 }
-
-namespace {
 
 // The path removal must act on, or nothing when the guard refuses; `literal` is what a refusal names.
 std::optional<URL> evaluate(const URL& url, const URL& home, const std::optional<URL>& ownBundle,
@@ -372,11 +447,13 @@ std::optional<URL> evaluate(const URL& url, const URL& home, const std::optional
     if (!home.isFile() || !home.path().starts_with('/'))
         return std::nullopt;
     const std::string resolved = resolvingParent(literal);
-    const std::vector<std::string> homes = bothSpellings(home);
+    const std::vector<std::string> homeSpellings = bothSpellings(home);
+    const std::vector<std::string> homes = foldedAll(homeSpellings);
     std::vector<std::string> bundles;
     if (ownBundle)
-        bundles = bothSpellings(*ownBundle);
-    if (isProtectedPath(folded(literal), homes, bundles) || isProtectedPath(folded(resolved), homes, bundles))
+        bundles = foldedAll(bothSpellings(*ownBundle));
+    if (isProtectedPath(folded(literal), homes, bundles, belowOwnHome(literal, homeSpellings)) ||
+        isProtectedPath(folded(resolved), homes, bundles, belowOwnHome(resolved, homeSpellings)))
         return std::nullopt;
     return URL::file(resolved);
 }
@@ -395,17 +472,16 @@ bool isProtected(const URL& url, const URL& home, const std::optional<URL>& ownB
     return !evaluate(url, home, ownBundle, literal).has_value();
 }
 
+// The program file itself, not the folder it was started from: that may be any folder of the
+// user's, such as Downloads, whose other files stay removable.
 const std::optional<URL>& runningAppBundle() {
     static const std::optional<URL> bundle = []() -> std::optional<URL> {
         char buffer[PATH_MAX];
-        const ssize_t length = ::readlink("/proc/self/exe", buffer, sizeof buffer - 1);
-        if (length <= 0)
+        const ssize_t length = Platform::SystemCalls::current().readlinkat(AT_FDCWD, "/proc/self/exe", buffer,
+                                                                            sizeof buffer);
+        if (length <= 0 || length == static_cast<ssize_t>(sizeof buffer) || buffer[0] != '/')
             return std::nullopt;
-        const std::string executable(buffer, static_cast<std::size_t>(length));
-        const std::size_t slash = executable.rfind('/');
-        if (slash == std::string::npos || slash == 0)
-            return std::nullopt;
-        return URL::file(executable.substr(0, slash));
+        return URL::file(std::string(buffer, static_cast<std::size_t>(length)));
     }();
     return bundle;
 }

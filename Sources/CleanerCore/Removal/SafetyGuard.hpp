@@ -35,16 +35,14 @@ URL check(const URL& url, const URL& home, const std::optional<URL>& ownBundle);
 // True exactly when check() throws. It never stands in for check() before a removal.
 bool isProtected(const URL& url, const URL& home, const std::optional<URL>& ownBundle);
 
-// The folder holding the running program, found once; nothing in it or above it is ever removed.
+// The running program's own file, found once; neither it nor any folder that holds it is removed.
 const std::optional<URL>& runningAppBundle();
 
 // The pieces, for tests and for callers that explain a refusal.
-std::string normalized(std::string_view path);      // trailing slashes dropped (a lone "/" stays)
-std::string folded(std::string_view path);          // lower case of NFC of normalized
+std::string normalized(std::string_view path); // trailing slashes dropped (a lone "/" stays)
+// Lower case of NFC of normalized; bytes that are no UTF-8 are kept as they are.
+std::string folded(std::string_view path);
 std::string resolvingParent(std::string_view path); // realpath of the parent + the last component
-// The protected test on a folded path, given folded homes and bundles; first hit wins.
-bool isProtectedPath(std::string_view foldedPath, std::span<const std::string> homes,
-                     std::span<const std::string> bundles);
 
 // The tables, verbatim.
 extern const std::span<const std::string_view> exactSystemPaths;

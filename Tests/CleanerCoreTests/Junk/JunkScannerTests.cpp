@@ -1,8 +1,10 @@
 #include "CleanerCore/Display/CoreL10n.hpp"
 #include "CleanerCore/Files/FileSize.hpp"
 #include "CleanerCore/Junk/JunkScanner.hpp"
+#include "CleanerCore/Removal/Cleaner.hpp"
 #include "FaultySystemCalls.hpp"
 #include "JunkHome.hpp"
+#include "ScopedMount.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
@@ -38,38 +40,18 @@ struct JunkHomeScan : testing::Test {
 
 } // namespace
 
-TEST(JunkRule, DefaultTableKeepsItsOrderSourcesAndChoices) {
-    const auto& rules = JunkRule::defaults();
-    std::vector<std::string> ids, symbols;
-    for (const JunkRule& rule : rules) {
+// The order is the channel's rows; only the hidden cache folder waits to be chosen, and every rule
+// has its texts.
+TEST(JunkRule, DefaultTableKeepsItsOrderAndChoices) {
+    std::vector<std::string> ids;
+    for (const JunkRule& rule : JunkRule::defaults()) {
         ids.push_back(rule.id);
-        symbols.push_back(rule.symbol);
         EXPECT_EQ(rule.selectedByDefault, rule.id != "dot-cache") << rule.id;
         EXPECT_THAT(rule.title, testing::Not(testing::StartsWith("core."))) << "no text for " << rule.id;
         EXPECT_THAT(rule.summary, testing::Not(testing::StartsWith("core."))) << "no text for " << rule.id;
     }
     EXPECT_THAT(ids, ElementsAre("user-caches", "user-logs", "xcode", "dev-caches", "dot-cache",
                                  "incomplete-downloads"));
-    EXPECT_THAT(symbols, ElementsAre("internaldrive", "doc.text", "hammer", "shippingbox", "terminal",
-                                     "arrow.down.circle"));
-
-    EXPECT_THAT(rules[0].sources,
-                ElementsAre(Source::contents("Library/Caches", JunkRule::protectedCaches())));
-    EXPECT_EQ(JunkRule::protectedCaches().size(), 8u);
-    EXPECT_TRUE(JunkRule::protectedCaches().contains("com.apple.HomeKit"));
-    const std::string xcode = "Library/Developer/Xcode/";
-    EXPECT_THAT(rules[2].sources, ElementsAre(Source::contents(xcode + "DerivedData"),
-                                              Source::contents(xcode + "iOS DeviceSupport"),
-                                              Source::contents(xcode + "watchOS DeviceSupport"),
-                                              Source::contents(xcode + "macOS DeviceSupport"),
-                                              Source::contents(xcode + "visionOS DeviceSupport"),
-                                              Source::folder("Library/Developer/CoreSimulator/Caches")));
-    EXPECT_THAT(rules[3].sources,
-                ElementsAre(Source::folder(".npm/_cacache"), Source::folder("Library/pnpm/store"),
-                            Source::folder(".bun/install/cache"), Source::folder(".gradle/caches"),
-                            Source::folder(".cargo/registry/cache")));
-    EXPECT_THAT(rules[5].sources, ElementsAre(Source::files("Downloads", {"download", "crdownload", "part",
-                                                                          "partial", "opdownload"})));
 }
 
 TEST(JunkRule, TextsStayInTheLanguageOfFirstUse) {
@@ -140,6 +122,58 @@ TEST_F(JunkHomeScan, EqualSizesKeepTheListingOrder) {
     ASSERT_EQ(scanned.front(), "app.log");
     scanned.erase(scanned.begin());
     EXPECT_EQ(scanned, listed);
+}
+
+// ~/.cache and a folder source kept elsewhere through a link: their real folders are scanned, the
+// items named where they really are, and what lies inside is still never followed.
+TEST_F(JunkHomeScan, ASourceThatIsALinkToAFolderIsScannedThere) {
+    const fs::path cache = tree.folder("elsewhere/cache");
+    fs::rename(tree.path(".cache"), cache);
+    tree.symlink(".cache", cache);
+    const fs::path npm = tree.folder("elsewhere/npm");
+    fs::rename(tree.path(".npm/_cacache"), npm / "_cacache");
+    tree.symlink(".npm/_cacache", npm / "_cacache");
+    tree.file("elsewhere/big/blob", 4096);
+    tree.symlink("elsewhere/cache/to-big", tree.path("elsewhere/big"));
+
+    const auto groups = scanner.scan({});
+    EXPECT_THAT(names(groups[3]), ElementsAre("_cacache", "cache"));
+    EXPECT_EQ(groups[3].items[0].url, URL::file((npm / "_cacache").string()));
+    ASSERT_THAT(names(groups[4]), ElementsAre("pip", "fontconfig"));
+    EXPECT_EQ(groups[4].items[0].url, URL::file((cache / "pip").string()));
+
+    const Cleaner cleaner(RemovalMode::permanent, scanner.home, std::nullopt);
+    const RemovalReport report = cleaner.remove(groups[4].items);
+    EXPECT_EQ(report.removed.size(), 2u);
+    EXPECT_FALSE(fs::exists(cache / "pip"));
+    EXPECT_TRUE(fs::is_symlink(tree.path(".cache")));
+    EXPECT_TRUE(fs::exists(tree.path("elsewhere/big/blob")));
+
+    // A link that leads into the home's own folders: the guard judges the real places.
+    fs::remove(tree.path(".cache"));
+    tree.symlink(".cache", tree.root());
+    const auto downloads = std::ranges::find(scanner.scan({})[4].items, tree.path("Downloads").string(),
+                                             [](const CleanupItem& item) { return item.url.path(); });
+    ASSERT_NE(downloads, scanner.scan({})[4].items.end());
+    EXPECT_EQ(cleaner.remove(std::span(downloads, 1)).failures.size(), 1u);
+    EXPECT_TRUE(fs::exists(tree.path("Downloads/Report.PART")));
+}
+
+// A bind mount of system files or a tmpfs below a junk source is never junk.
+TEST_F(JunkHomeScan, MountPointsAreNeverItems) {
+    const fs::path doc = tree.file("outside/doc/manual.txt", 8192).parent_path();
+    const TestSupport::ScopedMount bind = TestSupport::ScopedMount::bind(doc, tree.folder("Library/Logs/b"));
+    if (!bind)
+        GTEST_SKIP() << bind.why();
+    const TestSupport::ScopedMount memory = TestSupport::ScopedMount::tmpfs(tree.folder(".cache/m"));
+    const TestSupport::ScopedMount gradle = TestSupport::ScopedMount::tmpfs(tree.folder(".gradle/caches"));
+    ASSERT_TRUE(memory && gradle);
+    tree.file(".cache/m/x", 4096);
+    tree.file(".gradle/caches/y", 4096);
+    const auto groups = scanner.scan({});
+    EXPECT_THAT(names(groups[1]), ElementsAre("app.log"));
+    EXPECT_THAT(names(groups[3]), ElementsAre("_cacache", "cache"));
+    EXPECT_THAT(names(groups[4]), ElementsAre("pip", "fontconfig"));
 }
 
 TEST(JunkScanner, BareOrUnreadableHomeGivesEmptyGroups) {

@@ -54,7 +54,7 @@ std::string readText(const fs::path& path) {
 
 TEST_F(VolumeTrash, UsesTheUsersOwnTopDirectoryTrashWithRelativePaths) {
     const fs::path item = volume.file("photos/a b.jpg", 3);
-    EXPECT_EQ(trash().trash(item.string()), 0);
+    EXPECT_EQ(trash().trash(item.string()).error, 0);
     const fs::path bin = volume.path(".Trash-" + uid());
     EXPECT_TRUE(fs::exists(bin / "files/a b.jpg"));
     EXPECT_TRUE(
@@ -66,18 +66,18 @@ TEST_F(VolumeTrash, UsesTheUsersOwnTopDirectoryTrashWithRelativePaths) {
 TEST_F(VolumeTrash, PrefersASharedStickyTrashButNeverALinkOrAnUnstickyOne) {
     const fs::path shared = volume.folder(".Trash");
     fs::permissions(shared, fs::perms::all | fs::perms::sticky_bit);
-    EXPECT_EQ(trash().trash(volume.file("a.txt", 1).string()), 0);
+    EXPECT_EQ(trash().trash(volume.file("a.txt", 1).string()).error, 0);
     EXPECT_TRUE(fs::exists(shared / uid() / "files/a.txt"));
 
     fs::permissions(shared, fs::perms::all); // no sticky bit: anyone could swap the user's folder
-    EXPECT_EQ(trash().trash(volume.file("b.txt", 1).string()), 0);
+    EXPECT_EQ(trash().trash(volume.file("b.txt", 1).string()).error, 0);
     EXPECT_TRUE(fs::exists(volume.path(".Trash-" + uid() + "/files/b.txt")));
 
     fs::remove_all(shared);
     const fs::path elsewhere = volume.folder("elsewhere");
     fs::permissions(elsewhere, fs::perms::all | fs::perms::sticky_bit);
     fs::create_directory_symlink(elsewhere, shared);
-    EXPECT_EQ(trash().trash(volume.file("c.txt", 1).string()), 0);
+    EXPECT_EQ(trash().trash(volume.file("c.txt", 1).string()).error, 0);
     EXPECT_TRUE(fs::exists(volume.path(".Trash-" + uid() + "/files/c.txt")));
     EXPECT_TRUE(fs::is_empty(elsewhere));
 }
@@ -89,7 +89,8 @@ TEST_F(VolumeTrash, AVolumeWithoutAUsableTrashKeepsTheItem) {
         return std::string_view(name).starts_with(".Trash") ? EACCES : 0;
     };
     ScopedSystemCalls installed(calls);
-    EXPECT_EQ(trash().trash(item.string()), EXDEV);
+    EXPECT_EQ(trash().trash(item.string()),
+              RemovalResult::noTrash(EXDEV, volume.path(".Trash-" + uid()).string()));
     EXPECT_TRUE(fs::exists(item));
 }
 
@@ -107,7 +108,7 @@ TEST(FreedesktopTrash, VeryLongNamesStillGetAnInfoFile) {
     const std::string name = std::string(250, 'x') + ".txt";
     const fs::path item = tree.file(name, 1);
     FreedesktopTrash trash((tree.root() / "data").string());
-    ASSERT_EQ(trash.trash(item.string()), 0);
+    ASSERT_EQ(trash.trash(item.string()).error, 0);
     std::size_t infos = 0;
     for (const auto& entry : fs::directory_iterator(tree.path("data/Trash/info"))) {
         EXPECT_LE(entry.path().filename().string().size(), 255u);

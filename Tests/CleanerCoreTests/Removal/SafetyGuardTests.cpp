@@ -4,7 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <filesystem>
+#include <sched.h>
+#include <sys/mount.h>
+#include <unistd.h>
 
 using namespace CleanerCore;
 namespace fs = std::filesystem;
@@ -38,7 +42,20 @@ TEST(SafetyGuard, RefusesTheRootAndAnythingThatIsNoAbsoluteFileURL) {
 struct Case {
     const char* path;
     bool protectedPath;
+
+    friend void PrintTo(const Case& row, std::ostream* out) { *out << row.path; }
 };
+
+// "Refused_Users_Shared", "Allowed_Users_Shared_x": readable, and the same on every build.
+std::string caseName(const testing::TestParamInfo<Case>& row) {
+    std::string name = row.param.protectedPath ? "Refused" : "Allowed";
+    for (const char c : std::string_view(row.param.path))
+        if (c == '/')
+            name += '_';
+        else if (std::isalnum(static_cast<unsigned char>(c)))
+            name += c;
+    return name;
+}
 
 class SafetyGuardTable : public testing::TestWithParam<Case> {};
 
@@ -70,7 +87,8 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"/Volumes/Backup/photos/x.jpg", false},
         Case{"/Applications/Zephrane.app/Contents/MacOS/x", true}, Case{"/Applications/Other.app", false},
         Case{"/Users/ana/.ssh", true}, Case{"/Users/ana/.ssh/known_hosts", true},
-        Case{"/Users/ana/.Trash", true}, Case{"/Users/ana/.Trash/old.txt", false}));
+        Case{"/Users/ana/.Trash", true}, Case{"/Users/ana/.Trash/old.txt", false}),
+    caseName);
 
 INSTANTIATE_TEST_SUITE_P(
     LinuxPlaces, SafetyGuardTable,
@@ -89,7 +107,8 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"/Users/ana/.local/share/Trash/info/old.txt.trashinfo", false}, Case{"/mnt/disk/.Trash", true},
         Case{"/mnt/disk/.Trash/1000", true}, Case{"/mnt/disk/.Trash/1000/files", true},
         Case{"/mnt/disk/.Trash/1000/files/a", false}, Case{"/mnt/disk/.Trash-1000", true},
-        Case{"/mnt/disk/.Trash-1000/info", true}, Case{"/mnt/disk/.Trash-1000/info/a.trashinfo", false}));
+        Case{"/mnt/disk/.Trash-1000/info", true}, Case{"/mnt/disk/.Trash-1000/info/a.trashinfo", false}),
+    caseName);
 
 TEST(SafetyGuard, OtherCaseAndDecomposedSpellingsGiveTheSameAnswers) {
     const URL composedHome = URL::file("/Users/jos\u00e9");
@@ -127,4 +146,53 @@ TEST(SafetyGuard, ResolvesTheParentButNeverTheLastComponent) {
     tree.symlink("home-link", home);
     EXPECT_TRUE(SafetyGuard::isProtected(URL::file((home / "Documents").string()),
                                          URL::file(tree.path("home-link").string()), std::nullopt));
+}
+
+TEST(SafetyGuard, NamesThatAreNoUTF8NeverFoldAlike) {
+    EXPECT_NE(SafetyGuard::folded("/home/a\x80"), SafetyGuard::folded("/home/a\x81"));
+    EXPECT_NE(SafetyGuard::folded("/home/a\x80"), SafetyGuard::folded("/home/a\xef\xbf\xbd"));
+    EXPECT_EQ(SafetyGuard::folded("/HOME/\xc3\x89\x80/"), "/home/\xc3\xa9\x80");
+}
+
+// Another user's home that differs from ours only in case, or in a byte that is no UTF-8, is
+// someone else's on a case-sensitive file system. Checked on real folders: a private tmpfs on /home
+// in a mount namespace of a child process, so nothing outside the test sees it.
+TEST(SafetyGuard, OtherUsersHomesAreComparedAsTheFileSystemDoes) {
+    if (::geteuid() != 0 || !fs::is_directory("/home"))
+        GTEST_SKIP() << "needs root and a /home to mount over";
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto child = [] {
+        if (::unshare(CLONE_NEWNS) != 0 || ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount("zephrane-test", "/home", "tmpfs", 0, nullptr) != 0) {
+            std::fprintf(stderr, "no private mount\n");
+            std::exit(2);
+        }
+        for (const char* folder : {"/home/ana", "/home/Ana", "/home/b\x80", "/home/b\x81"})
+            fs::create_directory(folder);
+        const auto refusedFor = [](const char* home, const char* path) {
+            return SafetyGuard::isProtected(URL::file(path), URL::file(home), std::nullopt);
+        };
+        // Where nothing stands at the other spelling, nothing of anyone's is there: text decides.
+        const bool right = !refusedFor("/home/ana", "/home/ana/x") && refusedFor("/home/ana", "/home/Ana/x") &&
+                           refusedFor("/home/Ana", "/home/ana/x") && !refusedFor("/home/ana", "/home/ANA/x") &&
+                           !refusedFor("/home/b\x80", "/home/b\x80/x") &&
+                           refusedFor("/home/b\x80", "/home/b\x81/x");
+        std::fprintf(stderr, right ? "as the file system\n" : "folded\n");
+        std::exit(right ? 0 : 1);
+    };
+    EXPECT_EXIT(child(), testing::ExitedWithCode(0), "as the file system");
+}
+
+TEST(SafetyGuard, TheRunningProgramProtectsItsOwnFileNotTheFolderItStartedFrom) {
+    const std::optional<URL>& own = SafetyGuard::runningAppBundle();
+    ASSERT_TRUE(own.has_value());
+    const fs::path program = fs::canonical("/proc/self/exe");
+    EXPECT_EQ(own->path(), program.string());
+    TestSupport::TempTree tree;
+    const URL home = URL::file(tree.folder("home").string());
+    EXPECT_TRUE(SafetyGuard::isProtected(URL::file(program.string()), home, own));
+    EXPECT_TRUE(SafetyGuard::isProtected(URL::file(program.parent_path().string()), home, own));
+    // A file beside the program is judged as if the program were elsewhere.
+    const URL beside = URL::file((program.parent_path() / "beside.txt").string());
+    EXPECT_EQ(SafetyGuard::isProtected(beside, home, own), SafetyGuard::isProtected(beside, home, std::nullopt));
 }

@@ -12,6 +12,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string>
 
 using namespace std::chrono_literals;
 
@@ -93,7 +94,11 @@ TEST_P(GalleryLooks, EveryPieceLoadsCleanlyAndIsPhotographed) {
 
 INSTANTIATE_TEST_SUITE_P(Painel, GalleryLooks,
                          ::testing::Values(Look{false, "en"}, Look{true, "en"}, Look{false, "pt-BR"},
-                                           Look{true, "pt-BR"}));
+                                           Look{true, "pt-BR"}),
+                         [](const ::testing::TestParamInfo<Look>& look) {
+                             return std::string(look.param.increasedContrast ? "Contrast" : "Plain") +
+                                    (std::string(look.param.language) == "en" ? "English" : "Portuguese");
+                         });
 
 TEST_F(Gallery, NothingMovesUnderReducedMotion) {
     load({false, "en"}, true);
