@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <climits>
 #include <cstring>
 #include <fcntl.h>
 #include <memory>
@@ -170,6 +171,13 @@ private:
         FileDescriptor fd(Platform::openDirectory(AT_FDCWD, path.c_str()));
         if (!fd)
             return;
+        // Below the root the walk never passes a link, so every folder resolves to the root's
+        // resolution and the names after it; the guard need not ask the file system each time.
+        rootPath = path;
+        resolvedRoot.reset();
+        char buffer[PATH_MAX];
+        if (Platform::SystemCalls::current().realpath(path.c_str(), buffer))
+            resolvedRoot = buffer;
         Listing listing = list(fd.get(), path, 1);
         count(listing.visited);
         examine(fd.get(), path, listing.candidates);
@@ -285,7 +293,11 @@ private:
             if (candidate.size < scanner.minimumSize)
                 continue;
             URL url = URL::file(joined(path, candidate.name));
-            if (SafetyGuard::isProtected(url, guardHome(), ownBundle))
+            const bool isProtected =
+                resolvedRoot ? SafetyGuard::isProtected(url, *resolvedRoot + path.substr(rootPath.size()), guardHome(),
+                                                        ownBundle)
+                             : SafetyGuard::isProtected(url, guardHome(), ownBundle);
+            if (isProtected)
                 continue;
             struct statx info;
             if (Platform::SystemCalls::current().statx(fd, candidate.name.c_str(),
@@ -335,6 +347,8 @@ private:
     const std::stop_token stop;
     const std::string trashPath, trashName;
     const std::optional<URL>& ownBundle;
+    std::string rootPath;                     // the root being walked
+    std::optional<std::string> resolvedRoot; // and its links resolved
 
     std::atomic<std::int64_t> visited{0};
     std::mutex mutex; // one event at a time, and the list in the order of its events
