@@ -2,12 +2,12 @@
 # Times `zephrane-cli large` against find and fd on the same home-like tree, in one run with the
 # commands interleaved round by round (so a change of the machine's load hits all of them alike),
 # after one warm-up round: wall time, CPU time (user + system) and peak resident memory of each,
-# from wait4's resource usage. Prints a markdown table with ratios to `find`.
+# the last two from GNU time around every run. Prints a markdown table with ratios to `find`.
 #
 # Usage: Benchmarks/run-large-bench.sh [RUNS] [TREE]
 #   RUNS  timed rounds after the warm-up (default 5).
 #   TREE  default /tmp/large-bench-tree (1,000,000 files, made by make-large-tree.py when missing).
-# Needs fd-find (`fdfind`; ZEPHRANE_WITH_BENCH_TOOLS=1 scripts/install-deps), python3.
+# Needs GNU time and fd-find (`fdfind`; ZEPHRANE_WITH_BENCH_TOOLS=1 scripts/install-deps), python3.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 runs=${1:-5}
@@ -18,7 +18,7 @@ tree=${2:-/tmp/large-bench-tree}
 cli=$root/build/release/Sources/zephrane-cli/zephrane-cli
 
 python3 - "$runs" "$tree" "$cli" <<'PY'
-import os, statistics, subprocess, sys, time
+import os, statistics, subprocess, sys, tempfile, time
 
 runs, tree, cli = int(sys.argv[1]), sys.argv[2], sys.argv[3]
 commands = [
@@ -30,13 +30,15 @@ if subprocess.run(["sh", "-c", "command -v fdfind"], capture_output=True).return
     commands += [("fd --size +50m", ["fdfind", "-t", "f", "-S", "+50m", ".", tree]),
                  ("fd -u --size +50m", ["fdfind", "-u", "-t", "f", "-S", "+50m", ".", tree])]
 
+usage = tempfile.NamedTemporaryFile(suffix=".time").name
+
 def once(argv):
     start = time.perf_counter()
-    child = subprocess.Popen(argv, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-    out = child.stdout.read()
-    _, status, usage = os.wait4(child.pid, 0)
+    out = subprocess.run(["/usr/bin/time", "-f", "%U %S %M", "-o", usage] + argv, stdout=subprocess.PIPE,
+                         stderr=subprocess.DEVNULL).stdout
     wall = time.perf_counter() - start
-    return wall, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024, out.count(b"\n")
+    user, system, kib = open(usage).read().split()[-3:]
+    return wall, float(user) + float(system), int(kib) / 1024, out.count(b"\n")
 
 results = {name: [] for name, _ in commands}
 for round in range(runs + 1):
