@@ -252,7 +252,7 @@ private:
             if (current.next == current.folders.size() || stop.stop_requested()) {
                 const int finished = current.fd;
                 levels.pop_back();
-                if (!levels.empty() && levels.back().fd < 0) {
+                if (!levels.empty() && levels.back().fd < 0 && !stop.stop_requested()) {
                     Level& parent = levels.back();
                     parent.fd = finished < 0 ? -1 : reopenParent(finished, parent.identity);
                     if (parent.fd < 0)
