@@ -8,6 +8,7 @@ int runGuard(const std::vector<std::string>& words, const Streams& streams);
 int runTree(const std::vector<std::string>& words, const Streams& streams);
 int runApps(const std::vector<std::string>& words, const Streams& streams);
 int runLeftovers(const std::vector<std::string>& words, const Streams& streams);
+int runLarge(const std::vector<std::string>& words, const Streams& streams);
 
 // Each verb lives in a file of its own (<Name>Verb.cpp) and is listed here once.
 const std::vector<Verb>& verbs() {
@@ -25,6 +26,9 @@ const std::vector<Verb>& verbs() {
         {"leftovers", "leftovers [--json] [--app ID]",
          "what removed applications left in the home, or with --app what goes with one installed application",
          runLeftovers},
+        {"large", "large [FOLDER] [--min BYTES] [--age any|3m|6m|1y] [--kind KIND] [--sort size|lastUsed|name] [--json]",
+         "files of at least BYTES (default 50000000) below FOLDER (default the home), hidden ones, Library and "
+         "the trash left out", runLarge},
     };
     return all;
 }

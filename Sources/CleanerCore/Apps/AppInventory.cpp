@@ -109,9 +109,8 @@ std::vector<InstalledApp> installedApps(const std::vector<URL>& folders, const S
     for (InstalledApp& app : appImages(sources.appImageFolders))
         apps.push_back(std::move(app));
 
-    const NaturalOrder order;
-    std::stable_sort(apps.begin(), apps.end(), [&order](const InstalledApp& a, const InstalledApp& b) {
-        return order(a.name, b.name);
+    std::stable_sort(apps.begin(), apps.end(), [](const InstalledApp& a, const InstalledApp& b) {
+        return NaturalOrder::compare(a.name, b.name) < 0;
     });
     return apps;
 }

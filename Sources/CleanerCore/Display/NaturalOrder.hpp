@@ -1,32 +1,15 @@
 #pragma once
 
-#include <functional>
-#include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
 
-#include <unicode/uversion.h>
+// Names in the order people expect in a file list: by the locale's collation, digits compared as
+// numbers ("file 9" before "file 10"), letters first regardless of case, case only breaking ties.
+namespace CleanerCore::NaturalOrder {
 
-U_NAMESPACE_BEGIN
-class Collator;
-U_NAMESPACE_END
+// Negative, zero or positive as `a` sorts before, with or after `b` in `locale` (the engine's
+// current language when absent). Bytes that are not UTF-8 compare as replacement characters.
+int compare(std::string_view a, std::string_view b, const std::optional<std::string>& locale = std::nullopt);
 
-namespace CleanerCore {
-
-// The order people expect of names in a list, as a file browser sorts them: case and accents
-// count only to break ties, and digits compare by their numeric value ("App 9" before "App 10").
-// One object serves one thread; make one per sort.
-class NaturalOrder {
-public:
-    NaturalOrder();
-    ~NaturalOrder();
-    NaturalOrder(const NaturalOrder&) = delete;
-    NaturalOrder& operator=(const NaturalOrder&) = delete;
-
-    // Whether `a` sorts before `b` (UTF-8; bytes that are not UTF-8 sort as replacement characters).
-    bool operator()(std::string_view a, std::string_view b) const;
-
-private:
-    std::unique_ptr<icu::Collator> collator;
-};
-
-} // namespace CleanerCore
+} // namespace CleanerCore::NaturalOrder

@@ -438,15 +438,22 @@ bool isProtectedPath(std::string_view path, std::span<const std::string> homes,
 }
 
 // The path removal must act on, or nothing when the guard refuses; `literal` is what a refusal names.
+// `knownParent`, when given, is the caller's own resolution of the parent folder.
 std::optional<URL> evaluate(const URL& url, const URL& home, const std::optional<URL>& ownBundle,
-                            std::string& literal) {
+                            std::string& literal, const std::optional<std::string>& knownParent = std::nullopt) {
     literal = normalized(url.isFile() ? standardizedPath(url.path()) : url.path());
     if (!url.isFile() || !literal.starts_with('/') || literal == "/")
         return std::nullopt;
     // A home that is no absolute path would make every test below it meaningless.
     if (!home.isFile() || !home.path().starts_with('/'))
         return std::nullopt;
-    const std::string resolved = resolvingParent(literal);
+    std::string resolved;
+    if (knownParent) {
+        const std::string parent = normalized(standardizedPath(*knownParent));
+        resolved = (parent == "/" ? "" : parent) + "/" + url.lastPathComponent();
+    } else {
+        resolved = resolvingParent(literal);
+    }
     const std::vector<std::string> homeSpellings = bothSpellings(home);
     const std::vector<std::string> homes = foldedAll(homeSpellings);
     std::vector<std::string> bundles;
@@ -470,6 +477,12 @@ URL check(const URL& url, const URL& home, const std::optional<URL>& ownBundle) 
 bool isProtected(const URL& url, const URL& home, const std::optional<URL>& ownBundle) {
     std::string literal;
     return !evaluate(url, home, ownBundle, literal).has_value();
+}
+
+bool isProtected(const URL& url, const std::string& resolvedParent, const URL& home,
+                 const std::optional<URL>& ownBundle) {
+    std::string literal;
+    return !evaluate(url, home, ownBundle, literal, resolvedParent).has_value();
 }
 
 // The program file itself, not the folder it was started from: that may be any folder of the

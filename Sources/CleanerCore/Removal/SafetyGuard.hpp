@@ -34,6 +34,10 @@ URL check(const URL& url, const URL& home, const std::optional<URL>& ownBundle);
 
 // True exactly when check() throws. It never stands in for check() before a removal.
 bool isProtected(const URL& url, const URL& home, const std::optional<URL>& ownBundle);
+// The same for a walk that has resolved the parent folder itself (one that never follows a link
+// knows it from its root's resolution): spares asking the file system again for every path.
+bool isProtected(const URL& url, const std::string& resolvedParent, const URL& home,
+                 const std::optional<URL>& ownBundle);
 
 // The running program's own file, found once; neither it nor any folder that holds it is removed.
 const std::optional<URL>& runningAppBundle();
