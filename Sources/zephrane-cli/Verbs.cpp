@@ -19,9 +19,12 @@ const std::vector<Verb>& verbs() {
          runJunk},
         {"tree", "tree PATH [--json] [--min-node-size BYTES] [--keep N]",
          "what takes up the space below PATH, folder by folder, small items summed up", runTree},
-        {"large", "large [FOLDER] [--min BYTES] [--age any|3m|6m|1y] [--kind KIND] [--sort size|lastUsed|name] [--json]",
-         "files of at least BYTES (default 50000000) below FOLDER (default the home), hidden ones, Library and "
-         "the trash left out", runLarge},
+        {"large",
+         "large [FOLDER] [--min BYTES] [--age any|3m|6m|1y] [--kind KIND] [--sort size|lastUsed|name] "
+         "[--json]",
+         "files of at least BYTES (default 50000000) below FOLDER (default the home), hidden ones, "
+         "Library and the trash left out",
+         runLarge},
     };
     return all;
 }
