@@ -126,17 +126,18 @@ int runLarge(const std::vector<std::string>& words, const Streams& streams) {
 
     if (!arguments.has("json")) {
         for (const LargeFile& file : files)
-            out << file.size << '\t' << rawValue(file.kind) << '\t' << (file.lastUsed ? isoDate(*file.lastUsed) : "-")
-                << '\t' << file.url.path() << '\n';
+            out << file.size << '\t' << rawValue(file.kind) << '\t'
+                << (file.lastUsed ? isoDate(*file.lastUsed) : "-") << '\t' << file.url.path() << '\n';
         return 0;
     }
     nlohmann::json report = nlohmann::json::array();
     for (const LargeFile& file : files)
-        report.push_back({{"path", file.url.path()},
-                          {"allocatedBytes", file.size},
-                          {"kind", rawValue(file.kind)},
-                          {"kindTitle", file.kindTitle(locale)},
-                          {"lastUsed", file.lastUsed ? nlohmann::json(isoDate(*file.lastUsed)) : nlohmann::json()}});
+        report.push_back(
+            {{"path", file.url.path()},
+             {"allocatedBytes", file.size},
+             {"kind", rawValue(file.kind)},
+             {"kindTitle", file.kindTitle(locale)},
+             {"lastUsed", file.lastUsed ? nlohmann::json(isoDate(*file.lastUsed)) : nlohmann::json()}});
     out << report.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
     return 0;
 }

@@ -37,9 +37,9 @@ int compare(std::string_view a, std::string_view b, const std::optional<std::str
     if (!collator)
         return a.compare(b);
     UErrorCode status = U_ZERO_ERROR;
-    const UCollationResult result = collator->compareUTF8(icu::StringPiece(a.data(), static_cast<int32_t>(a.size())),
-                                                         icu::StringPiece(b.data(), static_cast<int32_t>(b.size())),
-                                                         status);
+    const UCollationResult result =
+        collator->compareUTF8(icu::StringPiece(a.data(), static_cast<int32_t>(a.size())),
+                              icu::StringPiece(b.data(), static_cast<int32_t>(b.size())), status);
     if (U_FAILURE(status))
         return a.compare(b);
     return result == UCOL_LESS ? -1 : result == UCOL_GREATER ? 1 : 0;

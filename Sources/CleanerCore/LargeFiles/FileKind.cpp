@@ -20,8 +20,8 @@ bool conformsToAny(const std::string& type, std::initializer_list<const char*> s
 // compressed tarballs from their compressors.
 bool isDiskImage(const std::string& type) {
     return conformsToAny(type, {"application/x-raw-disk-image", "application/x-apple-diskimage",
-                                "application/x-qemu-disk", "application/x-vdi-disk", "application/x-vmdk-disk",
-                                "application/x-vhdx-disk"});
+                                "application/x-qemu-disk", "application/x-vdi-disk",
+                                "application/x-vmdk-disk", "application/x-vhdx-disk"});
 }
 
 bool isDocument(const std::string& type) {
@@ -44,12 +44,13 @@ bool isDocument(const std::string& type) {
 // Office documents are zip files underneath, and the database says so; to the user they are
 // documents, so a zip container counts as an archive only when it is no document.
 bool isArchive(const std::string& type) {
-    return conformsToAny(type, {"application/zip", "application/x-tar", "application/gzip", "application/x-bzip",
-                                "application/x-bzip2", "application/x-bzip-compressed-tar", "application/x-xz",
-                                "application/zstd", "application/x-7z-compressed", "application/vnd.rar",
-                                "application/x-rar", "application/x-archive", "application/x-cpio",
-                                "application/x-lzma", "application/x-lzip", "application/x-compress",
-                                "application/x-rpm", "application/vnd.debian.binary-package"}) &&
+    return conformsToAny(type,
+                         {"application/zip", "application/x-tar", "application/gzip", "application/x-bzip",
+                          "application/x-bzip2", "application/x-bzip-compressed-tar", "application/x-xz",
+                          "application/zstd", "application/x-7z-compressed", "application/vnd.rar",
+                          "application/x-rar", "application/x-archive", "application/x-cpio",
+                          "application/x-lzma", "application/x-lzip", "application/x-compress",
+                          "application/x-rpm", "application/vnd.debian.binary-package"}) &&
            !isDocument(type);
 }
 

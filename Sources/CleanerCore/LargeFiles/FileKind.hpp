@@ -12,9 +12,9 @@ namespace CleanerCore {
 // What kind of thing a large file is, as the system's type database sees its name.
 enum class FileKind { video, audio, image, archive, diskImage, document, other };
 
-inline constexpr std::array<FileKind, 7> allFileKinds{FileKind::video,   FileKind::audio,     FileKind::image,
-                                                      FileKind::archive, FileKind::diskImage, FileKind::document,
-                                                      FileKind::other};
+inline constexpr std::array<FileKind, 7> allFileKinds{
+    FileKind::video,     FileKind::audio,    FileKind::image, FileKind::archive,
+    FileKind::diskImage, FileKind::document, FileKind::other};
 
 // The case's name: "video", "diskImage"...
 std::string_view rawValue(FileKind kind);

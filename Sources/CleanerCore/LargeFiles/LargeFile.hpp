@@ -16,7 +16,7 @@ struct LargeFile {
     using Clock = std::chrono::system_clock;
 
     URL url;
-    std::int64_t size = 0;                   // allocated bytes
+    std::int64_t size = 0;                     // allocated bytes
     std::optional<Clock::time_point> lastUsed; // the later of the last access and the last change of content
     FileKind kind = FileKind::other;
     bool isInICloud = false; // never true here: no file system of this platform keeps files in iCloud

@@ -25,8 +25,8 @@ template <> std::optional<LargeFileAge> fromRaw<LargeFileAge>(std::string_view r
     return std::nullopt;
 }
 
-std::optional<std::chrono::system_clock::time_point> cutoff(LargeFileAge age, std::chrono::system_clock::time_point from,
-                                                            const icu::Calendar& calendar) {
+std::optional<std::chrono::system_clock::time_point>
+cutoff(LargeFileAge age, std::chrono::system_clock::time_point from, const icu::Calendar& calendar) {
     using namespace std::chrono;
     UCalendarDateFields field = UCAL_DATE;
     int32_t amount = 0;
@@ -56,7 +56,9 @@ std::optional<std::chrono::system_clock::time_point> cutoff(LargeFileAge age, st
     const UDate back = moved->getTime(status);
     if (U_FAILURE(status))
         return std::nullopt;
-    return system_clock::time_point(duration_cast<system_clock::duration>(milliseconds(static_cast<std::int64_t>(back)))) + rest;
+    return system_clock::time_point(
+               duration_cast<system_clock::duration>(milliseconds(static_cast<std::int64_t>(back)))) +
+           rest;
 }
 
 std::unique_ptr<icu::Calendar> currentCalendar() {

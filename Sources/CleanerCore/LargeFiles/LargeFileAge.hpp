@@ -24,8 +24,8 @@ template <> std::optional<LargeFileAge> fromRaw<LargeFileAge>(std::string_view r
 // The moment a file must have been last used before: none for `any`; 90 days back for three months
 // (counted in days on purpose), 6 months and 1 year back for the others, by the calendar's own
 // rules in its time zone (29 February less a year is the 28th in the Gregorian calendar).
-std::optional<std::chrono::system_clock::time_point> cutoff(LargeFileAge age, std::chrono::system_clock::time_point from,
-                                                            const icu::Calendar& calendar);
+std::optional<std::chrono::system_clock::time_point>
+cutoff(LargeFileAge age, std::chrono::system_clock::time_point from, const icu::Calendar& calendar);
 
 // The Gregorian calendar of the system's time zone, for callers that have none of their own.
 std::unique_ptr<icu::Calendar> currentCalendar();

@@ -29,8 +29,10 @@ std::vector<LargeFile> LargeFileFilter::apply(std::span<const LargeFile> files,
 
 } // namespace CleanerCore
 
-std::size_t std::hash<CleanerCore::LargeFileFilter>::operator()(const CleanerCore::LargeFileFilter& filter) const noexcept {
-    std::size_t seed = std::hash<std::int64_t>{}(filter.minimumSize) * 31 + static_cast<std::size_t>(filter.age);
+std::size_t std::hash<CleanerCore::LargeFileFilter>::operator()(
+    const CleanerCore::LargeFileFilter& filter) const noexcept {
+    std::size_t seed =
+        std::hash<std::int64_t>{}(filter.minimumSize) * 31 + static_cast<std::size_t>(filter.age);
     for (CleanerCore::FileKind kind : filter.kinds)
         seed = seed * 31 + static_cast<std::size_t>(kind) + 1;
     return seed;

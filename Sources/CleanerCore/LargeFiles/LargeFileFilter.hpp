@@ -20,7 +20,8 @@ struct LargeFileFilter {
 
     // Whether `file` passes: big enough, of a chosen kind, and last used before the age's cutoff
     // from `now` (a file used exactly at the cutoff fails; one with no date counts as the oldest).
-    bool matches(const LargeFile& file, std::chrono::system_clock::time_point now, const icu::Calendar& calendar) const;
+    bool matches(const LargeFile& file, std::chrono::system_clock::time_point now,
+                 const icu::Calendar& calendar) const;
     // The files that pass, in their order.
     std::vector<LargeFile> apply(std::span<const LargeFile> files, std::chrono::system_clock::time_point now,
                                  const icu::Calendar& calendar) const;
@@ -28,7 +29,8 @@ struct LargeFileFilter {
     bool operator==(const LargeFileFilter&) const = default;
 
 private:
-    bool passes(const LargeFile& file, const std::optional<std::chrono::system_clock::time_point>& before) const;
+    bool passes(const LargeFile& file,
+                const std::optional<std::chrono::system_clock::time_point>& before) const;
 };
 
 } // namespace CleanerCore

@@ -60,7 +60,8 @@ struct Identity {
 
 bool identify(int fd, Identity& out) {
     struct statx info;
-    if (Platform::SystemCalls::current().statx(fd, "", AT_EMPTY_PATH | AT_STATX_DONT_SYNC, STATX_INO, &info) != 0)
+    if (Platform::SystemCalls::current().statx(fd, "", AT_EMPTY_PATH | AT_STATX_DONT_SYNC, STATX_INO,
+                                               &info) != 0)
         return false;
     out = {(std::uint64_t{info.stx_dev_major} << 32) | info.stx_dev_minor, info.stx_ino};
     return true;
@@ -164,7 +165,9 @@ public:
         return std::move(found);
     }
 
-    URL guardHome() const { return scanner.home.empty() && !scanner.roots.empty() ? scanner.roots.front() : scanner.home; }
+    URL guardHome() const {
+        return scanner.home.empty() && !scanner.roots.empty() ? scanner.roots.front() : scanner.home;
+    }
 
 private:
     void walkRoot(const std::string& path) {
@@ -294,8 +297,8 @@ private:
                 continue;
             URL url = URL::file(joined(path, candidate.name));
             const bool isProtected =
-                resolvedRoot ? SafetyGuard::isProtected(url, *resolvedRoot + path.substr(rootPath.size()), guardHome(),
-                                                        ownBundle)
+                resolvedRoot ? SafetyGuard::isProtected(url, *resolvedRoot + path.substr(rootPath.size()),
+                                                        guardHome(), ownBundle)
                              : SafetyGuard::isProtected(url, guardHome(), ownBundle);
             if (isProtected)
                 continue;
@@ -347,7 +350,7 @@ private:
     const std::stop_token stop;
     const std::string trashPath, trashName;
     const std::optional<URL>& ownBundle;
-    std::string rootPath;                     // the root being walked
+    std::string rootPath;                    // the root being walked
     std::optional<std::string> resolvedRoot; // and its links resolved
 
     std::atomic<std::int64_t> visited{0};

@@ -44,7 +44,9 @@ std::vector<LargeFile> sorted(LargeFileSort sort, std::vector<LargeFile> files,
         case LargeFileSort::size:
             return a.size > b.size ? -1 : a.size < b.size ? 1 : 0;
         case LargeFileSort::lastUsed:
-            return a.lastUsedSortKey() < b.lastUsedSortKey() ? -1 : b.lastUsedSortKey() < a.lastUsedSortKey() ? 1 : 0;
+            return a.lastUsedSortKey() < b.lastUsedSortKey()   ? -1
+                   : b.lastUsedSortKey() < a.lastUsedSortKey() ? 1
+                                                               : 0;
         case LargeFileSort::name:
             break;
         }

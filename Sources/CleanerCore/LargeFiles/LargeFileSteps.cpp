@@ -4,7 +4,8 @@
 
 namespace CleanerCore::LargeFileSteps {
 
-std::optional<std::string> stepID(const URL& file, const URL& home, const std::set<std::string, std::less<>>& ids) {
+std::optional<std::string> stepID(const URL& file, const URL& home,
+                                  const std::set<std::string, std::less<>>& ids) {
     const std::string filePath = standardizedPath(file.path());
     const std::string homePath = standardizedPath(home.path());
     const auto fileParts = pathComponents(filePath);

@@ -16,6 +16,7 @@ inline constexpr std::string_view otherID = "other";
 // The step of `file` below `home`, by standardized path components: the first component below
 // the home when `ids` holds it, else "other" when `ids` holds that. A file directly in the home,
 // or outside it, counts in no step.
-std::optional<std::string> stepID(const URL& file, const URL& home, const std::set<std::string, std::less<>>& ids);
+std::optional<std::string> stepID(const URL& file, const URL& home,
+                                  const std::set<std::string, std::less<>>& ids);
 
 } // namespace CleanerCore::LargeFileSteps

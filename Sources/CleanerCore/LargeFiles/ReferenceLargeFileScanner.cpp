@@ -25,9 +25,11 @@ LargeFile::Clock::time_point timeOf(const struct timespec& stamp) {
 Result scan(const LargeFileScanner& scanner) {
     Result result;
     const URL home = scanner.home.empty() && !scanner.roots.empty() ? scanner.roots.front() : scanner.home;
-    const std::string trash = standardizedPath(Platform::FreedesktopTrash::dataHomeFor(home.path()) + "/Trash");
+    const std::string trash =
+        standardizedPath(Platform::FreedesktopTrash::dataHomeFor(home.path()) + "/Trash");
     const auto lstat = [](const std::string& path, struct stat& info) {
-        return Platform::SystemCalls::current().fstatat(AT_FDCWD, path.c_str(), &info, AT_SYMLINK_NOFOLLOW) == 0;
+        return Platform::SystemCalls::current().fstatat(AT_FDCWD, path.c_str(), &info, AT_SYMLINK_NOFOLLOW) ==
+               0;
     };
 
     for (const URL& root : scanner.roots) {
@@ -36,7 +38,8 @@ Result scan(const LargeFileScanner& scanner) {
         if (!lstat(top, info) || !S_ISDIR(info.st_mode))
             continue; // a root that is a link gives nothing, like any other link
         std::error_code error;
-        for (fs::recursive_directory_iterator it(top, fs::directory_options::skip_permission_denied, error), end;
+        for (fs::recursive_directory_iterator it(top, fs::directory_options::skip_permission_denied, error),
+             end;
              !error && it != end; it.increment(error)) {
             const std::string path = it->path().string();
             const std::string name = it->path().filename().string();
@@ -69,7 +72,8 @@ Result scan(const LargeFileScanner& scanner) {
             } else {
                 continue;
             }
-            if (size < scanner.minimumSize || SafetyGuard::isProtected(url, home, SafetyGuard::runningAppBundle()))
+            if (size < scanner.minimumSize ||
+                SafetyGuard::isProtected(url, home, SafetyGuard::runningAppBundle()))
                 continue;
             const auto used = std::max(timeOf(info.st_atim), timeOf(info.st_mtim));
             result.files.push_back(LargeFile{url, size, used, fileKindOf(url), false});

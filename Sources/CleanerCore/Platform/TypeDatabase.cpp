@@ -11,8 +11,8 @@ std::optional<std::string> typeForExtension(std::string_view extension) {
         return std::nullopt;
     const std::string name = "file." + std::string(extension);
     gboolean uncertain = FALSE;
-    const std::unique_ptr<gchar, decltype(&g_free)> type(g_content_type_guess(name.c_str(), nullptr, 0, &uncertain),
-                                                         &g_free);
+    const std::unique_ptr<gchar, decltype(&g_free)> type(
+        g_content_type_guess(name.c_str(), nullptr, 0, &uncertain), &g_free);
     // Without content to look at, a name the database has no glob for comes back as plain bytes.
     if (!type || g_content_type_is_unknown(type.get()))
         return std::nullopt;

@@ -440,7 +440,8 @@ bool isProtectedPath(std::string_view path, std::span<const std::string> homes,
 // The path removal must act on, or nothing when the guard refuses; `literal` is what a refusal names.
 // `knownParent`, when given, is the caller's own resolution of the parent folder.
 std::optional<URL> evaluate(const URL& url, const URL& home, const std::optional<URL>& ownBundle,
-                            std::string& literal, const std::optional<std::string>& knownParent = std::nullopt) {
+                            std::string& literal,
+                            const std::optional<std::string>& knownParent = std::nullopt) {
     literal = normalized(url.isFile() ? standardizedPath(url.path()) : url.path());
     if (!url.isFile() || !literal.starts_with('/') || literal == "/")
         return std::nullopt;

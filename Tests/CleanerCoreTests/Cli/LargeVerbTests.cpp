@@ -59,8 +59,8 @@ TEST(LargeVerb, ReportsTheHomeFilteredAndSorted) {
                                                 "[0-9]+\tvideo\t[-0-9T:Z]+\t.*/Videos/new.mkv\n"
                                                 "[0-9]+\tvideo\t2001-09-09T01:46:40Z\t.*/Videos/old.mkv\n"));
 
-    const VerbRun json = large({(tree.root() / "Videos").string(), "--min=100000", "--age", "1y", "--kind", "video",
-                            "--sort", "name", "--json"});
+    const VerbRun json = large({(tree.root() / "Videos").string(), "--min=100000", "--age", "1y", "--kind",
+                                "video", "--sort", "name", "--json"});
     ASSERT_EQ(json.status, 0) << json.err;
     const auto files = nlohmann::json::parse(json.out);
     ASSERT_EQ(files.size(), 1u);

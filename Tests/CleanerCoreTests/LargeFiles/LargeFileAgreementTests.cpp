@@ -22,8 +22,8 @@ constexpr std::int64_t minimum = 20 * 1024;
 void randomHome(const TempTree& tree, unsigned seed) {
     std::mt19937 random(seed);
     const auto pick = [&](std::size_t n) { return static_cast<std::size_t>(random() % n); };
-    const std::vector<std::string> stems{"a", "Docs", "caf\xc3\xa9", "bad\xff", "with space", ".hidden", "Library",
-                                         "clip.mkv", "v1.2"};
+    const std::vector<std::string> stems{"a",       "Docs",    "caf\xc3\xa9", "bad\xff", "with space",
+                                         ".hidden", "Library", "clip.mkv",    "v1.2"};
     const std::vector<std::size_t> sizes{0, 100, 16 * 1024, 20 * 1024, 20 * 1024 + 1, 40 * 1024};
     std::vector<fs::path> folders{tree.root()};
     const auto write = [&](const fs::path& path, std::size_t bytes) {
@@ -67,9 +67,8 @@ void randomHome(const TempTree& tree, unsigned seed) {
 }
 
 std::vector<LargeFile> byPath(std::vector<LargeFile> files) {
-    std::sort(files.begin(), files.end(), [](const LargeFile& a, const LargeFile& b) {
-        return a.url.path() < b.url.path();
-    });
+    std::sort(files.begin(), files.end(),
+              [](const LargeFile& a, const LargeFile& b) { return a.url.path() < b.url.path(); });
     return files;
 }
 
@@ -82,10 +81,12 @@ TEST(LargeFileAgreement, RandomHomesGiveWhatThePlainWalkFinds) {
         randomHome(tree, seed);
         const auto scanner = LargeFileScanner::forHome(URL::file(tree.root().string()), minimum);
         std::int64_t visited = 0;
-        const auto fast = scanner.scan(LargeFileScanner::Progress([&](std::int64_t count) { visited = count; }));
+        const auto fast =
+            scanner.scan(LargeFileScanner::Progress([&](std::int64_t count) { visited = count; }));
         const auto reference = ReferenceLargeFileScanner::scan(scanner);
         EXPECT_EQ(byPath(fast), byPath(reference.files)) << "seed " << seed;
-        EXPECT_EQ(visited, reference.visited / LargeFileScanner::visitedBatch * LargeFileScanner::visitedBatch);
+        EXPECT_EQ(visited,
+                  reference.visited / LargeFileScanner::visitedBatch * LargeFileScanner::visitedBatch);
         everFound += fast.size();
     }
     EXPECT_GT(everFound, 16u); // the homes do hold large files

@@ -88,9 +88,9 @@ TEST(LargeFileFilter, SizeKindAndAgeAllDecide) {
 
 TEST(LargeFileSort, EachModeThenNamesThenPaths) {
     const Clock::time_point t = at(2024, 1, 1);
-    const std::vector<LargeFile> files{
-        file("/h/x/file 10", 5, t),          file("/h/y/file 9", 5, t + hours(1)), file("/h/b/same", 5),
-        file("/h/a/same", 5, t - hours(1)), file("/h/z/Big", 9, t),              file("/h/z/apple", 1, t)};
+    const std::vector<LargeFile> files{file("/h/x/file 10", 5, t), file("/h/y/file 9", 5, t + hours(1)),
+                                       file("/h/b/same", 5),       file("/h/a/same", 5, t - hours(1)),
+                                       file("/h/z/Big", 9, t),     file("/h/z/apple", 1, t)};
 
     EXPECT_THAT(names(sorted(LargeFileSort::size, files, "en")),
                 testing::ElementsAre("/h/z/Big", "/h/y/file 9", "/h/x/file 10", "/h/a/same", "/h/b/same",

@@ -15,9 +15,9 @@
 #include <sys/stat.h>
 
 using namespace CleanerCore;
-using TestSupport::TempTree;
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
+using TestSupport::TempTree;
 namespace fs = std::filesystem;
 
 namespace {
@@ -38,9 +38,8 @@ std::vector<std::string> relative(const std::vector<LargeFile>& files, const fs:
 }
 
 std::vector<LargeFile> byPath(std::vector<LargeFile> files) {
-    std::sort(files.begin(), files.end(), [](const LargeFile& a, const LargeFile& b) {
-        return a.url.path() < b.url.path();
-    });
+    std::sort(files.begin(), files.end(),
+              [](const LargeFile& a, const LargeFile& b) { return a.url.path() < b.url.path(); });
     return files;
 }
 
@@ -74,14 +73,14 @@ TEST(LargeFileScanner, FindsLargeFilesAndPackagesButNothingHiddenSkippedOrProtec
     const std::int64_t floor = allocated(tree.path("Work/exact.bin"));
     tree.file("Work/below.bin", static_cast<std::size_t>(floor - 4096));
     tree.file("top.iso", minimum);
-    tree.file("Library/skipped.bin", minimum);    // only right below the home
-    tree.file("Work/Library/kept.bin", minimum);  // deeper down it is an ordinary folder
+    tree.file("Library/skipped.bin", minimum);   // only right below the home
+    tree.file("Work/Library/kept.bin", minimum); // deeper down it is an ordinary folder
     tree.file("Work/.hidden.bin", minimum);
     tree.file(".config/hidden-folder.bin", minimum);
     tree.file("Pictures/Album.photoslibrary/a", minimum / 2);
     tree.file("Pictures/Album.photoslibrary/b", minimum / 2);
     tree.file("Pictures/Photos Library.photoslibrary/big", minimum); // the guard protects it
-    tree.file("Apps/Tool.app/Contents/big", 3 * minimum);           // programs are never found
+    tree.file("Apps/Tool.app/Contents/big", 3 * minimum);            // programs are never found
     tree.file("Data/Trash/files/trashed.bin", minimum);              // the freedesktop trash
     tree.file("Data/kept.mkv", minimum);
     tree.file("Work/bad\xff\xfe.bin", minimum);
@@ -111,8 +110,8 @@ TEST(LargeFileScanner, FindsLargeFilesAndPackagesButNothingHiddenSkippedOrProtec
         EXPECT_TRUE(file.lastUsed.has_value());
     }
     EXPECT_EQ(byPath(found), byPath(ReferenceLargeFileScanner::scan(
-                                 LargeFileScanner::forHome(URL::file(tree.root().string()), floor))
-                                                 .files));
+                                        LargeFileScanner::forHome(URL::file(tree.root().string()), floor))
+                                        .files));
 }
 
 TEST(LargeFileScanner, LastUsedIsTheLaterOfAccessAndChange) {
@@ -121,7 +120,8 @@ TEST(LargeFileScanner, LastUsedIsTheLaterOfAccessAndChange) {
     setTimes(tree.file("A/changedLast", minimum), 1'000'000'000, 1'500'000'000);
     std::map<std::string, std::int64_t> used;
     for (const LargeFile& file : scanHome(tree.root()))
-        used[file.name()] = std::chrono::duration_cast<std::chrono::seconds>(file.lastUsed->time_since_epoch()).count();
+        used[file.name()] =
+            std::chrono::duration_cast<std::chrono::seconds>(file.lastUsed->time_since_epoch()).count();
     EXPECT_EQ(used["accessedLast"], 2'000'000'000);
     EXPECT_EQ(used["changedLast"], 1'500'000'000);
 }

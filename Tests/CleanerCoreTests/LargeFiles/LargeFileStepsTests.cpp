@@ -22,9 +22,10 @@ TEST(KindTotal, OneLinePerKindThatOccursInTheKindsOrder) {
     const auto file = [](FileKind kind, std::int64_t size) {
         return LargeFile{URL::file("/h/f"), size, std::nullopt, kind, false};
     };
-    const std::vector<LargeFile> files{file(FileKind::other, 5), file(FileKind::video, 10), file(FileKind::other, 7),
-                                       file(FileKind::audio, 1)};
-    EXPECT_THAT(totalsByKind(files), testing::ElementsAre(KindTotal{FileKind::video, 1, 10}, KindTotal{FileKind::audio, 1, 1},
-                                                          KindTotal{FileKind::other, 2, 12}));
+    const std::vector<LargeFile> files{file(FileKind::other, 5), file(FileKind::video, 10),
+                                       file(FileKind::other, 7), file(FileKind::audio, 1)};
+    EXPECT_THAT(totalsByKind(files),
+                testing::ElementsAre(KindTotal{FileKind::video, 1, 10}, KindTotal{FileKind::audio, 1, 1},
+                                     KindTotal{FileKind::other, 2, 12}));
     EXPECT_TRUE(totalsByKind({}).empty());
 }

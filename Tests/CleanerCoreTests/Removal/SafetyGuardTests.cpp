@@ -149,7 +149,8 @@ TEST(SafetyGuard, ResolvesTheParentButNeverTheLastComponent) {
 
     // A parent the caller has resolved itself is taken as given, and decides like a resolved one.
     const URL inLink = URL::file((home / "etc-link/passwd").string());
-    EXPECT_TRUE(SafetyGuard::isProtected(inLink, std::string("/etc"), URL::file(home.string()), std::nullopt));
+    EXPECT_TRUE(
+        SafetyGuard::isProtected(inLink, std::string("/etc"), URL::file(home.string()), std::nullopt));
     EXPECT_FALSE(SafetyGuard::isProtected(inLink, (home / "Downloads").string(), URL::file(home.string()),
                                           std::nullopt));
     EXPECT_TRUE(SafetyGuard::isProtected(URL::file((home / "Downloads/Documents").string()), home.string(),
