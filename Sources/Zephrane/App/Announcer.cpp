@@ -1,25 +1,20 @@
 #include "App/Announcer.hpp"
 
-#include <QAccessible>
-#include <QGuiApplication>
-#include <QWindow>
+#include <algorithm>
+#include <vector>
 
 namespace {
 
-// Qt 6.4 has no announcement event: a value change with the text on the active window is what
-// screen readers pick up from it.
+// Every engine has its own singleton; each one hands the words to its window's notice.
+std::vector<Announcer*>& liveAnnouncers() {
+    static std::vector<Announcer*> announcers;
+    return announcers;
+}
+
 void postToPlatform(const QString& text) {
-    if (!QAccessible::isActive())
-        return;
-    QWindow* window = QGuiApplication::focusWindow();
-    if (!window) {
-        const auto windows = QGuiApplication::topLevelWindows();
-        if (windows.isEmpty())
-            return;
-        window = windows.first();
-    }
-    QAccessibleValueChangeEvent event(window, text);
-    QAccessible::updateAccessibility(&event);
+    const std::vector<Announcer*> listeners = liveAnnouncers();
+    for (Announcer* announcer : listeners)
+        emit announcer->spoken(text);
 }
 
 Announcer::Sink& currentSink() {
@@ -28,6 +23,10 @@ Announcer::Sink& currentSink() {
 }
 
 } // namespace
+
+Announcer::Announcer(QObject* parent) : QObject(parent) { liveAnnouncers().push_back(this); }
+
+Announcer::~Announcer() { std::erase(liveAnnouncers(), this); }
 
 void Announcer::announce(const QString& text) {
     if (text.isEmpty())

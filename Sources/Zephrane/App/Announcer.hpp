@@ -15,7 +15,8 @@ class Announcer : public QObject {
 
 public:
     using Sink = std::function<void(const QString&)>;
-    explicit Announcer(QObject* parent = nullptr) : QObject(parent) {}
+    explicit Announcer(QObject* parent = nullptr);
+    ~Announcer() override;
 
     static void announce(const QString& text);
     Q_INVOKABLE void say(const QString& text) { announce(text); }
@@ -23,4 +24,9 @@ public:
     // Replaces the destination of announcements and returns the previous one; an empty sink
     // restores the platform's.
     static Sink installSink(Sink sink);
+
+signals:
+    // The platform's destination: the main window's AnnouncementNotice turns this into what a
+    // screen reader speaks.
+    void spoken(const QString& text);
 };

@@ -62,4 +62,6 @@ Window {
     GoShortcuts {
         commands: mainView.goCommands
     }
+
+    AnnouncementNotice {}
 }
