@@ -67,10 +67,3 @@ TEST(ByteDisplay, KnowsTheLocalesDecimalSeparatorAndTrimsNoBreakSpaces) {
     EXPECT_EQ(french.fractionPart, "5");
     EXPECT_EQ(french.integerPart, "1\u202f234");
 }
-
-TEST(ByteDisplay, EqualValuesHashAlike) {
-    EXPECT_EQ(ByteDisplay(42, "en"), ByteDisplay(42, "en"));
-    EXPECT_NE(ByteDisplay(42, "en"), ByteDisplay(42, "pt-BR"));
-    EXPECT_EQ(std::hash<ByteDisplay>{}(ByteDisplay(42, "en")),
-              std::hash<ByteDisplay>{}(ByteDisplay(42, "en")));
-}
