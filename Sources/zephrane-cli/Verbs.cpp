@@ -6,6 +6,7 @@ int runJunk(const std::vector<std::string>& words, std::ostream& out, std::ostre
 int runSize(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
 int runGuard(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
 int runTree(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
+int runTrash(const std::vector<std::string>& words, std::ostream& out, std::ostream& err);
 
 // Each verb lives in a file of its own (<Name>Verb.cpp) and is listed here once.
 const std::vector<Verb>& verbs() {
@@ -18,6 +19,8 @@ const std::vector<Verb>& verbs() {
          runJunk},
         {"tree", "tree PATH [--json] [--min-node-size BYTES] [--keep N]",
          "what takes up the space below PATH, folder by folder, small items summed up", runTree},
+        {"trash", "trash [--json]", "each trash folder of the user, its items with their sizes and dates",
+         runTrash},
     };
     return all;
 }
