@@ -64,6 +64,7 @@ int runTrash(const std::vector<std::string>& words, std::ostream& out, std::ostr
                                                            : nlohmann::json()}});
         report.push_back({{"path", bin.url.path()},
                           {"volume", volume},
+                          {"volumeName", bin.volumeName()},
                           {"readable", entries.has_value()},
                           {"totalBytes", entries ? nlohmann::json(total) : nlohmann::json()},
                           {"items", std::move(items)}});

@@ -7,6 +7,7 @@
 #include "CleanerCore/Platform/FreedesktopTrash.hpp"
 #include "CleanerCore/Platform/NoFollow.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
+#include "CleanerCore/Platform/VolumeLabel.hpp"
 #include "CleanerCore/Removal/Cleaner.hpp"
 #include "CleanerCore/Removal/SafetyGuard.hpp"
 #include "CleanerCore/Trash/TrashDirectorySizes.hpp"
@@ -261,6 +262,15 @@ URL TrashBin::volumeURL() const {
     if (isDigits(name) && parent.lastPathComponent() == ".Trash")
         return parent.deletingLastPathComponent();
     return URL::file(Platform::MountTable::topDirectory(bin.path(), Platform::MountTable::current()));
+}
+
+std::string TrashBin::volumeName() const {
+    const URL volume = volumeURL();
+    for (const Platform::MountPoint& mount : Platform::MountTable::current())
+        if (mount.path == volume.path())
+            if (auto label = Platform::VolumeLabel::of(mount.device))
+                return *label;
+    return volume.lastPathComponent();
 }
 
 std::vector<TrashBin> TrashBin::otherVolumes(const URL& volumesRoot, uid_t uid) {

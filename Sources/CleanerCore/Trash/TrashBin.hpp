@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <sys/types.h>
 #include <vector>
@@ -43,6 +44,8 @@ struct TrashBin {
     // The volume this bin lies on: the folder holding ".Trash-UID", the one above ".Trash/UID", or
     // for any other bin the mount point under which it lies.
     URL volumeURL() const;
+    // What people call that volume: its label, else the last component of its folder.
+    std::string volumeName() const;
 
     // The bins of the volumes below `volumesRoot` (fixtures): for each entry that is no link, its
     // ".Trash/UID" (when ".Trash" is a sticky folder) and ".Trash-UID", where they are folders.

@@ -1,6 +1,7 @@
 #include "CleanerCore/Trash/TrashBin.hpp"
 
 #include "CleanerCore/Platform/FreedesktopTrash.hpp"
+#include "CleanerCore/Platform/VolumeLabel.hpp"
 #include "CleanerCore/Removal/Cleaner.hpp"
 #include "CleanerCore/Removal/SafetyGuard.hpp"
 #include "CleanerCore/Trash/TrashInfo.hpp"
@@ -179,6 +180,7 @@ TEST(TrashBin, EmptiesTheTrashOfAMountedVolume) {
         return bin.volumeURL().path() == volume.string();
     });
     ASSERT_NE(found, bins.end());
+    EXPECT_EQ(found->volumeName(), "volume");
     EXPECT_EQ(found->entries()->size(), 1u);
     const RemovalReport report = found->empty();
     EXPECT_TRUE(report.failures.empty());
@@ -229,4 +231,15 @@ TEST(TrashInfo, ReadsTheDateItsWriterWrites) {
     EXPECT_FALSE(TrashInfo::deletionDate("[Trash Info]\nDeletionDate=2026-03-04T05:06:07junk\n"));
     EXPECT_EQ(TrashInfo::itemName("a.trashinfo"), "a");
     EXPECT_FALSE(TrashInfo::itemName(".trashinfo"));
+}
+
+TEST(VolumeLabel, FindsTheLabelLinkOfADeviceAndUndoesItsEscapes) {
+    TestSupport::TempTree tree;
+    struct stat null;
+    ASSERT_EQ(::stat("/dev/null", &null), 0);
+    tree.symlink("labels/My\\x20Disk\\x2f2", "/dev/null");
+    tree.symlink("labels/dangling", tree.path("nowhere"));
+    EXPECT_EQ(Platform::VolumeLabel::of(null.st_rdev, tree.path("labels")), "My Disk/2");
+    EXPECT_FALSE(Platform::VolumeLabel::of(null.st_rdev + 1, tree.path("labels")));
+    EXPECT_EQ(Platform::VolumeLabel::unescaped("a\\x2"), "a\\x2");
 }
