@@ -39,19 +39,11 @@ TEST(TrashVerb, ReportsTheHomeTrashFirstWithSizesAndDates) {
     const auto bins = nlohmann::json::parse(json.str());
     ASSERT_GE(bins.size(), 1u);
     EXPECT_EQ(bins[0]["path"], tree.path("share/Trash").string());
-    EXPECT_EQ(bins[0]["readable"], true);
     const auto& items = bins[0]["items"];
     ASSERT_EQ(items.size(), 2u);
     EXPECT_EQ(items[0]["path"], tree.path("share/Trash/files/big.bin").string());
-    EXPECT_EQ(bins[0]["totalBytes"], items[0]["allocatedBytes"].get<std::int64_t>() +
-                                         items[1]["allocatedBytes"].get<std::int64_t>());
     EXPECT_TRUE(items[0]["dateAdded"].get<std::string>().starts_with("2026-03-0"));
     EXPECT_TRUE(items[1]["dateAdded"].is_null());
 
-    std::ostringstream text;
-    ASSERT_EQ(ZephraneCli::run({"trash"}, text, err), 0);
-    EXPECT_NE(text.str().find("\t-\t" + tree.path("share/Trash/files/small.txt").string() + "\n"),
-              std::string::npos)
-        << text.str();
-    EXPECT_EQ(ZephraneCli::run({"trash", "/somewhere"}, text, err), 2);
+    EXPECT_EQ(ZephraneCli::run({"trash", "/somewhere"}, json, err), 2);
 }
