@@ -2,13 +2,13 @@
 # Removal against peer tools, each on freshly generated identical trees:
 #   permanent removal of 100,000 files  vs  rm -rf
 #   trashing 10,000 items               vs  gio trash (or mv into the trash folder without gio)
-# Usage: Benchmarks/removal.sh PATH/TO/RemoveBench [RUNS] [all|permanent|trash]
+# Usage: Benchmarks/removal.sh [RUNS] [all|permanent|trash]
 # Works in a scratch folder under /tmp with its own HOME and trash; prints ratios (ours / peer).
 set -euo pipefail
-tool=$(realpath "${1:?path to RemoveBench}")
-runs=${2:-3}
-only=${3:-all}
+runs=${1:-3}
+only=${2:-all}
 here=$(cd "$(dirname "$0")" && pwd)
+tool=$("$here/bench-build.sh" RemoveBench)/RemoveBench
 work=$(mktemp -d /tmp/zephrane-removal-bench-XXXXXX)
 trap 'rm -rf "$work"' EXIT
 export HOME=$work/home XDG_DATA_HOME=$work/home/.local/share

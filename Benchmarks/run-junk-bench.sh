@@ -4,23 +4,21 @@
 # prints each median as a ratio to du.
 #
 # Usage: Benchmarks/run-junk-bench.sh [HOME] [RUNS]
-#   HOME  defaults to /tmp/bench-tree (made by make-tree.py when missing); its ".cache" holds
-#         some 500,000 entries in a few hundred folders, the shape of a well-used cache folder.
+#   HOME  defaults to /tmp/bench-tree (made by make-home-tree.py when missing); its ".cache"
+#         holds some 450,000 files in a few hundred folders, the shape of a well-used cache.
 #   RUNS  timed runs per command after one warm-up (default 5).
-# Environment: BENCH_DIR (make-tree.py and floor-walk.c, default /work/shared/bench),
-#   OUT (results folder, default /tmp/junk-bench).
+# Environment: OUT (results folder, default /tmp/junk-bench).
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 home=${1:-/tmp/bench-tree}
 runs=${2:-5}
-bench=${BENCH_DIR:-/work/shared/bench}
 out=${OUT:-/tmp/junk-bench}
 mkdir -p "$out"
 
-[[ -d $home ]] || python3 "$bench/make-tree.py" --out "$home" >&2
+[[ -d $home ]] || python3 "$root/Benchmarks/make-home-tree.py" --out "$home" >&2
 "$root/scripts/build" release zephrane-cli >&2
 cli=$root/build/release/Sources/zephrane-cli/zephrane-cli
-gcc -O2 -pthread -o "$out/floor-walk" "$bench/floor-walk.c"
+floor=$("$root/Benchmarks/bench-build.sh" floor-walk)/floor-walk
 
 # The candidates the rules name in this home, as the verb itself lists them.
 HOME=$home "$cli" junk --json | python3 -c 'import json, sys
@@ -32,7 +30,7 @@ echo "$(wc -l <"$out/candidates.txt") candidates" >&2
 hyperfine -N --warmup 1 --runs "$runs" --export-json "$out/junk-bench.json" \
   -n "zephrane-cli junk" "env HOME=$home $cli junk --json" \
   -n "du -s (candidates)" "xargs -d '\n' -a $out/candidates.txt du -s --block-size=1" \
-  -n "floor-walk -j2 (.cache)" "$out/floor-walk -j2 $home/.cache" >&2
+  -n "floor-walk -j2 (.cache)" "$floor -j2 $home/.cache" >&2
 
 python3 - "$out/junk-bench.json" <<'PY'
 import json, sys

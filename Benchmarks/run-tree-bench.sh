@@ -6,9 +6,9 @@
 #
 # Usage: Benchmarks/run-tree-bench.sh [RUNS] [TREE...]
 #   RUNS  timed runs per command after one warm-up (default 5).
-#   TREE  defaults to /tmp/bench-tree (1,000,000 files, made by make-tree.py when missing) and /usr.
-# Environment: BENCH_DIR (make-tree.py and floor-walk.c, default /work/shared/bench),
-#   OUT (results folder, default /tmp/tree-bench), COLD=1 drops the caches before every run (root).
+#   TREE  defaults to /tmp/bench-tree (1,000,000 files, made by make-home-tree.py when missing)
+#         and /usr.
+# Environment: OUT (results folder, default /tmp/tree-bench), COLD=1 drops the caches before every run (root).
 # Needs hyperfine, gdu, ncdu and GNU time (scripts/install-deps with ZEPHRANE_WITH_BENCH_TOOLS=1),
 # gcc and python3.
 set -euo pipefail
@@ -17,16 +17,15 @@ runs=${1:-5}
 shift || true
 trees=("$@")
 ((${#trees[@]})) || trees=(/tmp/bench-tree /usr)
-bench=${BENCH_DIR:-/work/shared/bench}
 out=${OUT:-/tmp/tree-bench}
 mkdir -p "$out"
 
 for tree in "${trees[@]}"; do
-  [[ -d $tree ]] || python3 "$bench/make-tree.py" --out "$tree" >&2
+  [[ -d $tree ]] || python3 "$root/Benchmarks/make-home-tree.py" --out "$tree" >&2
 done
 "$root/scripts/build" release zephrane-cli >&2
 cli=$root/build/release/Sources/zephrane-cli/zephrane-cli
-gcc -O2 -pthread -o "$out/floor-walk" "$bench/floor-walk.c"
+floor=$("$root/Benchmarks/bench-build.sh" floor-walk)/floor-walk
 
 commands() { # "name|command" lines; every command writes its report to stdout
   local tree=$1
@@ -35,10 +34,10 @@ zephrane-cli tree --json|$cli tree $tree --json
 gdu -n -p -s|gdu -n -p -s $tree
 ncdu -0 -o /dev/null|ncdu -0 -o /dev/null $tree
 du -s|du -s $tree
-floor-walk -j1|$out/floor-walk -j1 $tree
-floor-walk -j2|$out/floor-walk -j2 $tree
-floor-walk -j4|$out/floor-walk -j4 $tree
-floor-walk -j8|$out/floor-walk -j8 $tree
+floor-walk -j1|$floor -j1 $tree
+floor-walk -j2|$floor -j2 $tree
+floor-walk -j4|$floor -j4 $tree
+floor-walk -j8|$floor -j8 $tree
 EOF
 }
 
