@@ -9,6 +9,7 @@ int runTree(const std::vector<std::string>& words, const Streams& streams);
 int runApps(const std::vector<std::string>& words, const Streams& streams);
 int runLeftovers(const std::vector<std::string>& words, const Streams& streams);
 int runLarge(const std::vector<std::string>& words, const Streams& streams);
+int runMonitor(const std::vector<std::string>& words, const Streams& streams);
 
 // Each verb lives in a file of its own (<Name>Verb.cpp) and is listed here once.
 const std::vector<Verb>& verbs() {
@@ -29,6 +30,8 @@ const std::vector<Verb>& verbs() {
         {"large", "large [FOLDER] [--min BYTES] [--age any|3m|6m|1y] [--kind KIND] [--sort size|lastUsed|name] [--json]",
          "files of at least BYTES (default 50000000) below FOLDER (default the home), hidden ones, Library and "
          "the trash left out", runLarge},
+        {"monitor", "monitor [--json]",
+         "load, memory, disk, battery and network over half a second, and the largest memory users", runMonitor},
     };
     return all;
 }
