@@ -88,9 +88,17 @@ std::optional<CpuTicks> readCpuTicks(const std::string& procRoot) {
     const auto text = readSmallFile(procRoot + "/stat", statLimit);
     if (!text)
         return std::nullopt;
-    CpuTicks ticks;
-    forEachLine(*text, [&ticks](std::string_view line) {
-        if (!isProcessorLine(nextWord(line)))
+    // The "cpu" line sums every processor the machine may have, so unlike the sum of the "cpuN"
+    // lines of those online it never falls when one goes offline between two samples.
+    std::optional<std::array<std::uint64_t, 4>> totals;
+    int processors = 0;
+    forEachLine(*text, [&](std::string_view line) {
+        const std::string_view label = nextWord(line);
+        if (isProcessorLine(label)) {
+            ++processors;
+            return;
+        }
+        if (label != "cpu")
             return;
         // user nice system idle iowait irq softirq steal guest guest_nice; guest time is already
         // inside user, and steal is neither ours nor idle, so both stay out.
@@ -98,15 +106,11 @@ std::optional<CpuTicks> readCpuTicks(const std::string& procRoot) {
         for (std::uint64_t& field : fields)
             field = unsignedValue(nextWord(line)).value_or(0);
         const auto [user, nice, system, idle, iowait, irq, softirq] = fields;
-        ticks.totals[0] += user;
-        ticks.totals[1] += system + irq + softirq;
-        ticks.totals[2] += idle + iowait;
-        ticks.totals[3] += nice;
-        ++ticks.processors;
+        totals = {user, system + irq + softirq, idle + iowait, nice};
     });
-    if (ticks.processors == 0)
+    if (!totals || processors == 0)
         return std::nullopt;
-    return ticks;
+    return CpuTicks{*totals, processors};
 }
 
 std::optional<MemoryCounters> readMemoryCounters(const std::string& procRoot) {

@@ -19,7 +19,7 @@ struct CpuTicks {
     bool operator==(const CpuTicks&) const = default;
 };
 
-// From <procRoot>/stat; nothing when it can't be read or lists no processor.
+// From <procRoot>/stat; nothing when it can't be read or lacks the totals or the processors.
 std::optional<CpuTicks> readCpuTicks(const std::string& procRoot);
 
 struct MemoryCounters {

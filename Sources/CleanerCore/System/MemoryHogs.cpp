@@ -60,7 +60,8 @@ std::vector<MemoryHog> top(const std::vector<HogCandidate>& apps, int limit, std
 
 bool quit(const MemoryHog& hog, const std::optional<HogCandidate>& current, std::int32_t ownPID,
           const std::optional<std::string>& ownBundleID) {
-    if (!current || current->pid != hog.app.pid || current->bundleIdentifier != hog.app.bundleIdentifier)
+    if (!current || current->pid != hog.app.pid || current->bundleIdentifier != hog.app.bundleIdentifier ||
+        current->bundlePath != hog.app.bundlePath)
         return false;
     if (!isQuittable(*current, ownPID, ownBundleID))
         return false;

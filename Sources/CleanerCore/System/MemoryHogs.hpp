@@ -33,7 +33,7 @@ std::vector<MemoryHog> top(const std::vector<HogCandidate>& apps, int limit, std
 
 // Asks the hog to quit (SIGTERM; it is never forced). `current` is a fresh record of the hog's pid,
 // absent when the process has gone: the pid may have been reused since the list was made, so it
-// must still be the same application and still quittable. True when the request was sent.
+// must still be the same application (identifier and bundle) and still quittable. True when the request was sent.
 bool quit(const MemoryHog& hog, const std::optional<HogCandidate>& current, std::int32_t ownPID,
           const std::optional<std::string>& ownBundleID);
 

@@ -11,7 +11,10 @@ TEST(MonitorVerb, ReportsOneMeasuredReadingAsJsonOrLines) {
     ASSERT_EQ(ZephraneCli::run({"monitor", "--json"}, out, err), 0) << err.str();
     const auto report = nlohmann::json::parse(out.str());
     EXPECT_GE(report["cpuCores"].get<int>(), 1);
-    EXPECT_GT(report["memoryTotal"].get<std::uint64_t>(), 0u);
+    EXPECT_GT(report["memoryUsed"].get<std::uint64_t>(), 0u);
+    EXPECT_LE(report["memoryUsed"].get<std::uint64_t>(), report["memoryTotal"].get<std::uint64_t>());
+    EXPECT_GE(report["cpuUsage"].get<double>(), 0);
+    EXPECT_LE(report["cpuUsage"].get<double>(), 1);
     EXPECT_GT(report["diskTotal"].get<std::int64_t>(), 0);
     EXPECT_THAT(report["status"].get<std::string>(), testing::AnyOf("ok", "diskAlmostFull"));
     EXPECT_TRUE(report["hogs"].is_array());
