@@ -67,9 +67,9 @@ void sampleFloor(benchmark::State& state) {
 
 void hogs(benchmark::State& state) {
     for (auto _ : state) {
-        std::vector<CleanerCore::HogCandidate> candidates;
+        std::vector<CleanerCore::RunningAppInfo> candidates;
         for (const auto& process : CleanerCore::Platform::runningApplications())
-            candidates.push_back(CleanerCore::HogCandidate::fromProcess(process));
+            candidates.push_back(CleanerCore::RunningAppInfo::fromProcess(process));
         benchmark::DoNotOptimize(CleanerCore::MemoryHogs::top(candidates, 3, ::getpid(), std::nullopt));
     }
 }

@@ -23,9 +23,9 @@ namespace {
 constexpr std::chrono::milliseconds interval{500};
 
 std::vector<CleanerCore::MemoryHog> currentHogs() {
-    std::vector<CleanerCore::HogCandidate> candidates;
+    std::vector<CleanerCore::RunningAppInfo> candidates;
     for (const CleanerCore::Platform::RunningApplication& process : CleanerCore::Platform::runningApplications())
-        candidates.push_back(CleanerCore::HogCandidate::fromProcess(process));
+        candidates.push_back(CleanerCore::RunningAppInfo::fromProcess(process));
     return CleanerCore::MemoryHogs::top(candidates, 3, static_cast<std::int32_t>(::getpid()), std::nullopt);
 }
 

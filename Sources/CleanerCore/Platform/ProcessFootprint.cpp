@@ -1,6 +1,7 @@
 #include "CleanerCore/Platform/ProcessFootprint.hpp"
 
 #include "CleanerCore/Platform/KernelCounters.hpp"
+#include "CleanerCore/Platform/RunningApplications.hpp"
 #include "CleanerCore/Platform/SmallFile.hpp"
 
 namespace CleanerCore::Platform {
@@ -19,25 +20,7 @@ std::optional<std::uint64_t> kibibytesOf(std::string_view line, std::string_view
     return static_cast<std::uint64_t>(*value);
 }
 
-} // namespace
-
-std::optional<std::string_view> applicationScopePath(std::string_view cgroupText) {
-    while (!cgroupText.empty()) {
-        const std::size_t end = cgroupText.find('\n');
-        const std::string_view line = cgroupText.substr(0, end);
-        cgroupText = end == std::string_view::npos ? std::string_view{} : cgroupText.substr(end + 1);
-        if (!line.starts_with("0::/"))
-            continue;
-        const std::string_view path = line.substr(3);
-        const std::string_view unit = path.substr(path.rfind('/') + 1);
-        const bool application = unit.starts_with("app-") && (unit.ends_with(".scope") || unit.ends_with(".service"));
-        if (application && path.find("/..") == std::string_view::npos)
-            return path;
-        return std::nullopt;
-    }
-    return std::nullopt;
-}
-
+// Anonymous plus swap bytes from the text of a smaps_rollup file; nothing without an Anonymous line.
 std::optional<std::uint64_t> anonymousAndSwapBytes(std::string_view smapsRollup) {
     std::optional<std::uint64_t> anonymous;
     std::uint64_t swap = 0;
@@ -55,12 +38,15 @@ std::optional<std::uint64_t> anonymousAndSwapBytes(std::string_view smapsRollup)
     return (*anonymous + swap) * 1024;
 }
 
+} // namespace
+
 std::optional<std::uint64_t> processFootprint(int pid, const std::string& procRoot, const std::string& sysRoot) {
     if (pid <= 0)
         return std::nullopt;
     const std::string base = procRoot + "/" + std::to_string(pid);
     if (const auto cgroup = readSmallFile(base + "/cgroup", smallLimit)) {
-        if (const auto scope = applicationScopePath(*cgroup)) {
+        const auto scope = applicationCgroupPath(*cgroup);
+        if (scope && scope->find("/..") == std::string_view::npos) {
             const auto current = readSmallFile(sysRoot + "/fs/cgroup" + std::string(*scope) + "/memory.current", 64);
             if (const auto bytes = current ? KernelCounters::leadingInteger(*current) : std::nullopt; bytes && *bytes >= 0)
                 return static_cast<std::uint64_t>(*bytes);

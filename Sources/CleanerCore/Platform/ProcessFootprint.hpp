@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace CleanerCore::Platform {
 
@@ -15,12 +14,5 @@ namespace CleanerCore::Platform {
 // process has gone or can't be read (another user's).
 std::optional<std::uint64_t> processFootprint(int pid, const std::string& procRoot = "/proc",
                                               const std::string& sysRoot = "/sys");
-
-// The cgroup path ("/user.slice/…/app-gnome-org.example.App-42.scope") of the unified hierarchy's
-// line in a /proc/<pid>/cgroup text, when its last folder is an application's unit.
-std::optional<std::string_view> applicationScopePath(std::string_view cgroupText);
-
-// Anonymous plus swap bytes from the text of a smaps_rollup file; nothing without an Anonymous line.
-std::optional<std::uint64_t> anonymousAndSwapBytes(std::string_view smapsRollup);
 
 } // namespace CleanerCore::Platform

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CleanerCore/System/HogCandidate.hpp"
+#include "CleanerCore/Apps/RunningAppInfo.hpp"
 
 #include <cstdint>
 #include <functional>
@@ -10,7 +10,7 @@ namespace CleanerCore {
 // A running application among the largest users of memory, with the bytes it is charged for.
 // Identified by its process.
 struct MemoryHog {
-    HogCandidate app;
+    RunningAppInfo app;
     std::uint64_t bytes = 0;
 
     std::int32_t id() const { return app.pid; }

@@ -19,7 +19,7 @@ const std::set<std::string>& protectedBundleIDs() {
     return ids;
 }
 
-bool isQuittable(const HogCandidate& app, std::int32_t ownPID, const std::optional<std::string>& ownBundleID) {
+bool isQuittable(const RunningAppInfo& app, std::int32_t ownPID, const std::optional<std::string>& ownBundleID) {
     if (!app.isRegular)
         return false;
     if (app.pid == ownPID || app.pid < 2)
@@ -44,10 +44,10 @@ std::optional<std::uint64_t> footprintOf(std::int32_t pid) {
     return usages.front().bytes;
 }
 
-std::vector<MemoryHog> top(const std::vector<HogCandidate>& apps, int limit, std::int32_t ownPID,
+std::vector<MemoryHog> top(const std::vector<RunningAppInfo>& apps, int limit, std::int32_t ownPID,
                            const std::optional<std::string>& ownBundleID, const Footprint& footprint) {
     std::vector<MemoryHog> hogs;
-    for (const HogCandidate& app : apps) {
+    for (const RunningAppInfo& app : apps) {
         if (!isQuittable(app, ownPID, ownBundleID))
             continue;
         if (const auto bytes = footprint(app.pid))
@@ -58,7 +58,7 @@ std::vector<MemoryHog> top(const std::vector<HogCandidate>& apps, int limit, std
     return hogs;
 }
 
-bool quit(const MemoryHog& hog, const std::optional<HogCandidate>& current, std::int32_t ownPID,
+bool quit(const MemoryHog& hog, const std::optional<RunningAppInfo>& current, std::int32_t ownPID,
           const std::optional<std::string>& ownBundleID) {
     if (!current || current->pid != hog.app.pid || current->bundleIdentifier != hog.app.bundleIdentifier ||
         current->bundlePath != hog.app.bundlePath)

@@ -13,7 +13,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-using CleanerCore::HogCandidate;
+using CleanerCore::RunningAppInfo;
 using CleanerCore::MemoryHog;
 namespace MemoryHogs = CleanerCore::MemoryHogs;
 
@@ -22,13 +22,13 @@ namespace {
 constexpr std::int32_t ownPID = 500;
 const std::optional<std::string> ownID = "dev.tavrix.zephrane";
 
-HogCandidate bundle(std::int32_t pid, std::optional<std::string> id, std::optional<std::string> path,
+RunningAppInfo bundle(std::int32_t pid, std::optional<std::string> id, std::optional<std::string> path,
                     bool regular = true) {
     return {pid, "App " + std::to_string(pid), std::move(id), std::move(path), regular};
 }
 
 // A Flatpak instance or the leader of an application scope: an id and no bundle.
-HogCandidate linuxApp(std::int32_t pid, std::optional<std::string> id, bool regular = true) {
+RunningAppInfo linuxApp(std::int32_t pid, std::optional<std::string> id, bool regular = true) {
     return bundle(pid, std::move(id), std::nullopt, regular);
 }
 
@@ -40,7 +40,7 @@ void writeText(const std::filesystem::path& path, const std::string& text) {
 } // namespace
 
 TEST(MemoryHogs, OnlyRegularApplicationsOutsideTheSystemAndTheDesktopAreQuittable) {
-    const auto quittable = [](const HogCandidate& app) { return MemoryHogs::isQuittable(app, ownPID, ownID); };
+    const auto quittable = [](const RunningAppInfo& app) { return MemoryHogs::isQuittable(app, ownPID, ownID); };
     EXPECT_TRUE(quittable(bundle(10, "com.example.foo", "/Applications/Foo.app")));
     EXPECT_TRUE(quittable(bundle(10, "com.example.foo", "/Applications/Foo.app/")));
     EXPECT_TRUE(quittable(bundle(10, std::nullopt, "/opt/Foo.app")));
@@ -67,7 +67,7 @@ TEST(MemoryHogs, OnlyRegularApplicationsOutsideTheSystemAndTheDesktopAreQuittabl
 }
 
 TEST(MemoryHogs, TopRanksByFootprintLargestFirstAndKeepsTiesInOrder) {
-    const std::vector<HogCandidate> apps{linuxApp(10, "org.example.a"), linuxApp(11, "org.example.b"),
+    const std::vector<RunningAppInfo> apps{linuxApp(10, "org.example.a"), linuxApp(11, "org.example.b"),
                                          linuxApp(12, "org.example.gone"), linuxApp(13, "org.gnome.Shell"),
                                          linuxApp(14, "org.example.c"), linuxApp(15, "org.example.d")};
     const std::map<std::int32_t, std::uint64_t> bytes{{10, 300}, {11, 900}, {13, 5000}, {14, 300}, {15, 100}};
@@ -168,7 +168,7 @@ TEST(MemoryHogs, RanksARealChildAndAsksItPolitelyToQuit) {
     const pid_t small = children.spawn(0), large = children.spawn(heldBytes);
     ASSERT_GT(small, 0);
     ASSERT_GT(large, 0);
-    const std::vector<HogCandidate> apps{linuxApp(small, "org.example.Small"), linuxApp(large, "org.example.Large"),
+    const std::vector<RunningAppInfo> apps{linuxApp(small, "org.example.Small"), linuxApp(large, "org.example.Large"),
                                          linuxApp(::getpid(), "org.example.Tests")};
 
     const auto hogs = MemoryHogs::top(apps, 3, ::getpid(), std::nullopt);
