@@ -10,6 +10,7 @@ int runApps(const std::vector<std::string>& words, const Streams& streams);
 int runLeftovers(const std::vector<std::string>& words, const Streams& streams);
 int runLarge(const std::vector<std::string>& words, const Streams& streams);
 int runTrash(const std::vector<std::string>& words, const Streams& streams);
+int runMonitor(const std::vector<std::string>& words, const Streams& streams);
 
 // Each verb lives in a file of its own (<Name>Verb.cpp) and is listed here once.
 const std::vector<Verb>& verbs() {
@@ -32,6 +33,8 @@ const std::vector<Verb>& verbs() {
          "the trash left out", runLarge},
         {"trash", "trash [--json]", "each trash folder of the user, its items with their sizes and dates",
          runTrash},
+        {"monitor", "monitor [--json]",
+         "load, memory, disk, battery and network over half a second, and the largest memory users", runMonitor},
     };
     return all;
 }

@@ -44,20 +44,11 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-// The last component of the unified (cgroup v2) line "0::/user.slice/.../app-x.scope".
 std::optional<std::string> unitOfCgroup(std::string_view cgroup) {
-    while (!cgroup.empty()) {
-        const std::size_t end = cgroup.find('\n');
-        const std::string_view line = cgroup.substr(0, end);
-        cgroup = end == std::string_view::npos ? std::string_view{} : cgroup.substr(end + 1);
-        if (!line.starts_with("0::"))
-            continue;
-        const std::size_t slash = line.rfind('/');
-        const std::string_view unit = line.substr(slash == std::string_view::npos ? 3 : slash + 1);
-        if (unit.starts_with("app-") && (unit.ends_with(".scope") || unit.ends_with(".service")))
-            return std::string(unit);
-    }
-    return std::nullopt;
+    const auto path = applicationCgroupPath(cgroup);
+    if (!path)
+        return std::nullopt;
+    return std::string(path->substr(path->rfind('/') + 1));
 }
 
 int parentOf(std::string_view status) {
@@ -151,6 +142,21 @@ std::optional<std::string> applicationIDOfFlatpakInfo(std::string_view keyFile) 
             if (!name.empty())
                 return std::string(name);
         }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string_view> applicationCgroupPath(std::string_view cgroupText) {
+    while (!cgroupText.empty()) {
+        const std::size_t end = cgroupText.find('\n');
+        const std::string_view line = cgroupText.substr(0, end);
+        cgroupText = end == std::string_view::npos ? std::string_view{} : cgroupText.substr(end + 1);
+        if (!line.starts_with("0::/"))
+            continue;
+        const std::string_view path = line.substr(3);
+        const std::string_view unit = path.substr(path.rfind('/') + 1);
+        if (unit.starts_with("app-") && (unit.ends_with(".scope") || unit.ends_with(".service")))
+            return path;
     }
     return std::nullopt;
 }

@@ -36,6 +36,10 @@ std::set<std::string> runningBundleIdentifiers(const std::string& procRoot = "/p
 // The innermost folder ending in ".app" that holds `executablePath`, if any.
 std::optional<std::string> enclosingAppBundle(const std::string& executablePath);
 
+// The path ("/user.slice/.../app-gnome-org.example.App-42.scope") of the unified (cgroup v2)
+// line of a /proc/<pid>/cgroup text, when its last folder is an application's systemd unit.
+std::optional<std::string_view> applicationCgroupPath(std::string_view cgroupText);
+
 // The application id of a systemd unit named after the desktop convention:
 // "app[-<launcher>]-<id>-<random>.scope" or "app[-<launcher>]-<id>[@<random>].service", with
 // systemd's \xNN escapes undone. Nothing for any other unit.

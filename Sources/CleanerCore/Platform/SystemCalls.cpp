@@ -1,6 +1,7 @@
 #include "CleanerCore/Platform/SystemCalls.hpp"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <sys/stat.h>
@@ -59,6 +60,9 @@ ssize_t SystemCalls::read(int fd, void* buffer, std::size_t length) {
 }
 ssize_t SystemCalls::readlinkat(int dirfd, const char* path, char* buffer, std::size_t size) {
     return ::readlinkat(dirfd, path, buffer, size);
+}
+int SystemCalls::kill(pid_t pid, int signal) {
+    return ::kill(pid, signal);
 }
 
 SystemCalls& SystemCalls::current() {

@@ -32,6 +32,7 @@ public:
     virtual char* realpath(const char* path, char* resolved);
     virtual ssize_t read(int fd, void* buffer, std::size_t length);
     virtual ssize_t readlinkat(int dirfd, const char* path, char* buffer, std::size_t size);
+    virtual int kill(pid_t pid, int signal);
 
     // The calls in force: the real ones unless a test has installed others.
     static SystemCalls& current();
