@@ -152,9 +152,10 @@ TEST_F(JunkHomeScan, ASourceThatIsALinkToAFolderIsScannedThere) {
     // A link that leads into the home's own folders: the guard judges the real places.
     fs::remove(tree.path(".cache"));
     tree.symlink(".cache", tree.root());
-    const auto downloads = std::ranges::find(scanner.scan({})[4].items, tree.path("Downloads").string(),
+    const std::vector<CleanupItem> throughHome = scanner.scan({})[4].items;
+    const auto downloads = std::ranges::find(throughHome, tree.path("Downloads").string(),
                                              [](const CleanupItem& item) { return item.url.path(); });
-    ASSERT_NE(downloads, scanner.scan({})[4].items.end());
+    ASSERT_NE(downloads, throughHome.end());
     EXPECT_EQ(cleaner.remove(std::span(downloads, 1)).failures.size(), 1u);
     EXPECT_TRUE(fs::exists(tree.path("Downloads/Report.PART")));
 }
