@@ -24,7 +24,8 @@ fs::path makeTemporaryFolder(const char* prefix) {
 void makeWritable(const fs::path& root) {
     std::error_code error;
     fs::permissions(root, fs::perms::owner_all, fs::perm_options::add, error);
-    for (auto it = fs::recursive_directory_iterator(root, fs::directory_options::skip_permission_denied, error);
+    for (auto it =
+             fs::recursive_directory_iterator(root, fs::directory_options::skip_permission_denied, error);
          it != fs::recursive_directory_iterator(); it.increment(error)) {
         if (it->is_directory(error) && !it->is_symlink(error))
             fs::permissions(it->path(), fs::perms::owner_all, fs::perm_options::add, error);
@@ -42,10 +43,13 @@ TempTree::~TempTree() {
 }
 
 fs::path TempTree::file(std::string_view relative, std::size_t bytes) const {
+    return text(relative, std::string(bytes, 'z'));
+}
+
+fs::path TempTree::text(std::string_view relative, std::string_view content) const {
     const fs::path target = base / relative;
     fs::create_directories(target.parent_path());
     std::ofstream out(target, std::ios::binary | std::ios::trunc);
-    const std::string content(bytes, 'z');
     out.write(content.data(), static_cast<std::streamsize>(content.size()));
     return target;
 }

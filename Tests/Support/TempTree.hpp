@@ -19,6 +19,7 @@ public:
 
     // Creates parents as needed. `bytes` of content, written in one go.
     std::filesystem::path file(std::string_view relative, std::size_t bytes = 0) const;
+    std::filesystem::path text(std::string_view relative, std::string_view content) const;
     std::filesystem::path folder(std::string_view relative) const;
     std::filesystem::path symlink(std::string_view relative, const std::filesystem::path& target) const;
 

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
-#include <fstream>
 #include <sys/stat.h>
 
 using namespace CleanerCore;
@@ -35,11 +34,6 @@ AppInventory::Sources flatpaksOf(const TestSupport::TempTree& home) {
     sources.home = URL::file(home.root().string());
     sources.flatpaks = true;
     return sources;
-}
-
-void writeText(const std::filesystem::path& path, const std::string& text) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path) << text;
 }
 
 void setModified(const std::filesystem::path& path, long seconds) {
@@ -112,7 +106,7 @@ TEST(FlatpakInventory, LastUseComesFromTheShellElseFromTheAppsOwnFolder) {
     fixture->install("org.zephrane.Test.Sandboxed");
 
     TestSupport::TempTree home;
-    writeText(home.path(".local/share/gnome-shell/application_state"),
+    home.text(".local/share/gnome-shell/application_state",
               "<?xml version=\"1.0\"?>\n<application-state>\n <context id=\"\">\n"
               "  <application id=\"org.zephrane.Test.Seen.desktop\" score=\"3\" last-seen=\"1600000000\"/>\n"
               " </context>\n <context id=\"work\">\n"

@@ -1,38 +1,24 @@
-#include "Cli.hpp"
+#include "CliRun.hpp"
 #include "JunkHome.hpp"
+#include "ScopedEnvironment.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <cstdlib>
-#include <sstream>
-
-namespace {
-
-// Points HOME at a tree for the life of the object.
-class ScopedHome {
-public:
-    explicit ScopedHome(const std::filesystem::path& home) : previous(std::getenv("HOME")) {
-        ::setenv("HOME", home.c_str(), 1);
-    }
-    ~ScopedHome() { ::setenv("HOME", previous.c_str(), 1); }
-
-private:
-    std::string previous;
-};
-
-} // namespace
+using CliTest::run;
+using testing::HasSubstr;
+using TestSupport::ScopedEnvironment;
 
 TEST(JunkVerb, ReportsEveryRuleOfTheHomeAsTextOrJson) {
     TestSupport::TempTree tree;
     TestSupport::buildJunkHome(tree.root());
-    const ScopedHome home(tree.root());
+    const ScopedEnvironment home("HOME", tree.root());
 
-    std::ostringstream json, err;
-    ASSERT_EQ(ZephraneCli::run({"junk", "--json"}, json, err), 0) << err.str();
-    const auto groups = nlohmann::json::parse(json.str());
+    const auto json = run({"junk", "--json"});
+    ASSERT_EQ(json.status, 0) << json.err;
+    const auto groups = nlohmann::json::parse(json.out);
     ASSERT_EQ(groups.size(), 6u);
     EXPECT_EQ(groups[0]["id"], "user-caches");
     EXPECT_EQ(groups[5]["id"], "incomplete-downloads");
@@ -47,24 +33,22 @@ TEST(JunkVerb, ReportsEveryRuleOfTheHomeAsTextOrJson) {
     EXPECT_EQ(groups[0]["totalBytes"], sum);
     EXPECT_EQ(groups[4]["items"][0]["selectedByDefault"], false);
 
-    std::ostringstream text;
-    ASSERT_EQ(ZephraneCli::run({"junk"}, text, err), 0);
-    EXPECT_THAT(text.str(), testing::HasSubstr("\tuser-caches\t"));
-    EXPECT_THAT(text.str(), testing::HasSubstr("/.cache/pip\t[off]\n"));
-    EXPECT_THAT(text.str(), testing::Not(testing::HasSubstr("CloudKit")));
-
-    EXPECT_EQ(ZephraneCli::run({"junk", "/tmp"}, text, err), 2);
+    const auto text = run({"junk"});
+    ASSERT_EQ(text.status, 0);
+    EXPECT_THAT(text.out, HasSubstr("\tuser-caches\t"));
+    EXPECT_THAT(text.out, HasSubstr("/.cache/pip\t[off]\n"));
+    EXPECT_THAT(text.out, testing::Not(HasSubstr("CloudKit")));
 }
 
 TEST(JunkVerb, AHomeThatIsNoFolderIsSaidPlainly) {
     TestSupport::TempTree tree;
     for (const char* home : {"missing", "file"}) {
         tree.file("file", 10);
-        const ScopedHome scoped(tree.path(home));
-        std::ostringstream out, err;
-        EXPECT_EQ(ZephraneCli::run({"junk"}, out, err), 1) << home;
-        EXPECT_TRUE(out.str().empty());
-        EXPECT_NE(err.str().find("HOME"), std::string::npos) << err.str();
-        EXPECT_EQ(err.str().find('\n'), err.str().size() - 1);
+        const ScopedEnvironment scoped("HOME", tree.path(home));
+        const auto result = run({"junk"});
+        EXPECT_EQ(result.status, 1) << home;
+        EXPECT_TRUE(result.out.empty());
+        EXPECT_NE(result.err.find("HOME"), std::string::npos) << result.err;
+        EXPECT_TRUE(CliTest::oneLine(result.err));
     }
 }

@@ -2,15 +2,14 @@
 #include "CleanerCore/Files/FileSize.hpp"
 #include "CleanerCore/Platform/BulkListing.hpp"
 #include "CleanerCore/Platform/FileDescriptor.hpp"
+#include "DeepChain.hpp"
 #include "FaultySystemCalls.hpp"
 #include "TempTree.hpp"
 
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
 #include <mutex>
 #include <pthread.h>
-#include <unistd.h>
 
 using namespace CleanerCore;
 using Platform::ScopedSystemCalls;
@@ -18,32 +17,6 @@ using TestSupport::FaultySystemCalls;
 namespace fs = std::filesystem;
 
 namespace {
-
-// "d/d/d/...", `depth` levels below `root` (far past PATH_MAX), a one-byte file "f" in each; made
-// and removed through descriptors only.
-struct DeepChain {
-    DeepChain(const fs::path& root, int depth) : levels(depth) {
-        int fd = ::open(root.c_str(), O_RDONLY | O_DIRECTORY);
-        for (int level = 0; level < depth; ++level) {
-            ::mkdirat(fd, "d", 0755);
-            const int child = ::openat(fd, "d", O_RDONLY | O_DIRECTORY);
-            ::close(std::exchange(fd, child));
-            const int file = ::openat(fd, "f", O_WRONLY | O_CREAT, 0644);
-            EXPECT_EQ(::write(file, "x", 1), 1);
-            ::close(file);
-        }
-        bottom = fd;
-    }
-    ~DeepChain() { // climbs back through ".."
-        for (int level = 0; level < levels; ++level) {
-            ::unlinkat(bottom, "f", 0);
-            ::close(std::exchange(bottom, ::openat(bottom, "..", O_RDONLY | O_DIRECTORY)));
-            ::unlinkat(bottom, "d", AT_REMOVEDIR);
-        }
-        ::close(bottom);
-    }
-    int levels, bottom;
-};
 
 template <typename Work> void onSmallStack(Work work) {
     pthread_attr_t attributes;
@@ -61,8 +34,8 @@ template <typename Work> void onSmallStack(Work work) {
 
 TEST(DirectoryWalker, WalksThousandsOfLevelsOnASmallStackWithFewDescriptors) {
     TestSupport::TempTree tree;
-    const DeepChain chain(tree.root(), 3000);
-    const std::int64_t expected = 3000 * TestSupport::allocatedBytes(tree.path("d/f").c_str());
+    const TestSupport::DeepChain chain(tree.root(), 3000);
+    const std::int64_t expected = chain.total();
     FaultySystemCalls calls;
     ScopedSystemCalls scope(calls);
     std::int64_t sequential = -1, parallel = -1;

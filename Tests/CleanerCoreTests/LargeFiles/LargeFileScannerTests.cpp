@@ -2,6 +2,7 @@
 #include "CleanerCore/LargeFiles/ReferenceLargeFileScanner.hpp"
 #include "DeepChain.hpp"
 #include "FaultySystemCalls.hpp"
+#include "ScopedEnvironment.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
@@ -25,8 +26,7 @@ namespace {
 constexpr std::int64_t minimum = 64 * 1024;
 
 std::int64_t allocated(const fs::path& path) {
-    struct stat info {};
-    return ::lstat(path.c_str(), &info) == 0 ? static_cast<std::int64_t>(info.st_blocks) * 512 : -1;
+    return TestSupport::allocatedBytes(path.c_str());
 }
 
 // Paths of the files, relative to `root`, in the given order.
@@ -43,18 +43,6 @@ std::vector<LargeFile> byPath(std::vector<LargeFile> files) {
     return files;
 }
 
-// Points XDG_DATA_HOME elsewhere for the life of the object.
-class ScopedDataHome {
-public:
-    explicit ScopedDataHome(const fs::path& folder) : previous(std::getenv("XDG_DATA_HOME")) {
-        ::setenv("XDG_DATA_HOME", folder.c_str(), 1);
-    }
-    ~ScopedDataHome() { ::setenv("XDG_DATA_HOME", previous.c_str(), 1); }
-
-private:
-    std::string previous;
-};
-
 void setTimes(const fs::path& path, std::int64_t accessed, std::int64_t modified) {
     const struct timespec times[2] = {{accessed, 0}, {modified, 0}};
     ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW), 0);
@@ -68,7 +56,7 @@ std::vector<LargeFile> scanHome(const fs::path& home, std::int64_t floor = minim
 
 TEST(LargeFileScanner, FindsLargeFilesAndPackagesButNothingHiddenSkippedOrProtected) {
     TempTree tree;
-    const ScopedDataHome dataHome(tree.path("Data"));
+    const TestSupport::ScopedEnvironment dataHome("XDG_DATA_HOME", tree.path("Data"));
     tree.file("Work/exact.bin", minimum);
     const std::int64_t floor = allocated(tree.path("Work/exact.bin"));
     tree.file("Work/below.bin", static_cast<std::size_t>(floor - 4096));

@@ -9,7 +9,6 @@ Window {
 
     property bool increasedContrast: false
     property string locale: "en"
-    property bool reducedMotion: false
 
     width: 1040
     height: 760
@@ -17,7 +16,6 @@ Window {
     color: PainelTheme.bg
 
     Binding { target: PainelTheme; property: "increasedContrast"; value: root.increasedContrast }
-    Binding { target: PainelTheme; property: "reducedMotion"; value: root.reducedMotion }
 
     component Caption: MonoLabel { tone: MonoLabel.Faint }
 

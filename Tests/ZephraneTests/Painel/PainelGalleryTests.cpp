@@ -12,7 +12,6 @@
 
 #include <stdexcept>
 #include <string>
-#include <string>
 
 using namespace std::chrono_literals;
 
@@ -26,12 +25,11 @@ struct Look {
 // Loads the gallery of every kit piece in one palette and language; every QML warning fails.
 class Gallery : public ::testing::Test {
 protected:
-    void load(Look look, bool reducedMotion = false) {
+    void load(Look look) {
         QmlTestSupport::useLanguage(look.language);
         engine.addImportPath(QStringLiteral("qrc:/"));
-        engine.setInitialProperties({{"increasedContrast", look.increasedContrast},
-                                     {"locale", QString::fromLatin1(look.language)},
-                                     {"reducedMotion", reducedMotion}});
+        engine.setInitialProperties(
+            {{"increasedContrast", look.increasedContrast}, {"locale", QString::fromLatin1(look.language)}});
         engine.load(QUrl::fromLocalFile(
             QStringLiteral(ZEPHRANE_SOURCE_DIR "/Tests/ZephraneTests/Painel/PainelGallery.qml")));
         ASSERT_FALSE(engine.rootObjects().isEmpty());
@@ -99,12 +97,6 @@ INSTANTIATE_TEST_SUITE_P(Painel, GalleryLooks,
                              return std::string(look.param.increasedContrast ? "Contrast" : "Plain") +
                                     (std::string(look.param.language) == "en" ? "English" : "Portuguese");
                          });
-
-TEST_F(Gallery, NothingMovesUnderReducedMotion) {
-    load({false, "en"}, true);
-    EXPECT_EQ(item("logo")->property("litCount").toDouble(), 8.0) << "the logo is whole at once";
-    EXPECT_EQ(item("sweep")->property("phase").toDouble(), 0.5) << "the sweep stands in the middle";
-}
 
 TEST_F(Gallery, NumbersAndMetersReadAsLabelAndValue) {
     load({false, "en"});

@@ -125,4 +125,3 @@ TEST(DotMatrixLogoCanvas, PowersOnOneLetterAtATimeWithAnEaseOut) {
     logo.setLitCount(99);
     EXPECT_EQ(logo.litCount(), 8);
 }
-

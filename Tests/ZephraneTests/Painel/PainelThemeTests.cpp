@@ -1,6 +1,6 @@
+#include "App/Preferences.hpp"
 #include "Painel/PainelDesktopSettings.hpp"
 #include "Painel/PainelPalette.hpp"
-#include "App/Preferences.hpp"
 #include "Painel/PainelTheme.hpp"
 
 #include <QDBusVariant>
@@ -17,25 +17,19 @@ QColor hex(const char* text) {
 
 } // namespace
 
-TEST(PainelPalette, IncreasedContrastDarkensUnlitCellsAndLightensOutlines) {
+// The colours themselves are the palette's to choose; what contrast does to them is the rule.
+TEST(PainelPalette, IncreasedContrastDarkensUnlitCellsAndLightensOutlinesAndSecondaryText) {
     const PainelPalette standard = PainelPalette::make(PainelAccent::orange, false);
     const PainelPalette contrast = PainelPalette::make(PainelAccent::orange, true);
-    EXPECT_EQ(standard.ledOff, hex("#2A2A2D"));
-    EXPECT_EQ(contrast.ledOff, hex("#1A1A1C"));
     EXPECT_LT(contrast.ledOff.lightness(), standard.ledOff.lightness());
-    EXPECT_EQ(standard.border, hex("#2C2C2F"));
-    EXPECT_EQ(contrast.border, hex("#6E6E74"));
-    EXPECT_GT(contrast.border.lightness(), standard.border.lightness());
-    EXPECT_EQ(contrast.divider, hex("#48484D"));
-    EXPECT_EQ(contrast.muted, hex("#C8C8CC"));
-    EXPECT_EQ(contrast.faint, hex("#B4B4B9"));
+    for (auto field :
+         {&PainelPalette::border, &PainelPalette::divider, &PainelPalette::muted, &PainelPalette::faint})
+        EXPECT_GT((contrast.*field).lightness(), (standard.*field).lightness());
     // What contrast leaves alone stays as it is.
     for (auto field : {&PainelPalette::bg, &PainelPalette::deep, &PainelPalette::panel,
                        &PainelPalette::raised, &PainelPalette::text, &PainelPalette::ok, &PainelPalette::warn,
                        &PainelPalette::accent, &PainelPalette::onAccent})
         EXPECT_EQ(standard.*field, contrast.*field);
-    EXPECT_EQ(standard.bg, hex("#121213"));
-    EXPECT_EQ(standard.onAccent, hex("#121213"));
 }
 
 TEST(PainelPalette, TheAccentComesFromTheChoice) {
@@ -97,7 +91,7 @@ TEST(PainelDesktopSettings, ThemesFollowTheDesktopWhenItChanges) {
     desktop.overrideWith({.reducedMotion = true, .increasedContrast = true});
     EXPECT_TRUE(theme.reducedMotion());
     EXPECT_TRUE(theme.increasedContrast());
-    EXPECT_EQ(theme.ledOff(), hex("#1A1A1C"));
+    EXPECT_EQ(theme.ledOff(), PainelPalette::make(PainelAccent::orange, true).ledOff);
     EXPECT_TRUE(PainelTheme().increasedContrast()) << "a theme made later starts from the desktop";
     desktop.overrideWith(before);
     EXPECT_FALSE(theme.increasedContrast());

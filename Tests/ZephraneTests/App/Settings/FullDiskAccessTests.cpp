@@ -4,7 +4,6 @@
 #include "FaultySystemCalls.hpp"
 #include "TempTree.hpp"
 
-#include <QDir>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -36,14 +35,10 @@ struct OpenWatch {
 
 } // namespace
 
-TEST(DiskAccessProbe, NoProbeThatExistsMeansNoGrant) {
+TEST(DiskAccessProbe, TheFirstProbeThatExistsAloneDecides) {
     TestSupport::TempTree tree;
     EXPECT_FALSE(FullDiskAccess::isGranted({path(tree, "missing.db"), path(tree, "Library/Safari")}));
     EXPECT_FALSE(FullDiskAccess::isGranted({}));
-}
-
-TEST(DiskAccessProbe, TheFirstProbeThatExistsAloneDecides) {
-    TestSupport::TempTree tree;
     tree.file("TCC.db", 10);
     tree.folder("Safari");
     const QStringList probes{path(tree, "gone"), path(tree, "TCC.db"), path(tree, "Safari")};
@@ -79,11 +74,6 @@ TEST(DiskAccessProbe, AFolderMustListNotMerelyOpen) {
     ScopedSystemCalls installed(calls);
     EXPECT_FALSE(FullDiskAccess::isGranted(probes));
     EXPECT_EQ(calls.openNow, 0);
-}
-
-TEST(DiskAccessProbe, OnThisDesktopTheHomeFolderIsTheProbe) {
-    EXPECT_EQ(FullDiskAccess::probes(), QStringList{QDir::homePath()});
-    EXPECT_TRUE(FullDiskAccess::isGranted());
 }
 
 namespace {

@@ -202,15 +202,3 @@ TEST_F(LensWindow, ScansDrillsDownByPointerAndKeyboardMarksAndRemoves) {
     QmlTestSupport::settle();
     QmlTestSupport::saveScreenshot(*window, "lens-after-removal");
 }
-
-TEST_F(LensWindow, ReadsInPortugueseWithAHighlightedFolder) {
-    QmlTestSupport::useLanguage("pt-BR");
-    scanAndWait();
-    lens->navigation()->open(lens->navigation()->rowNodes()[0]->url());
-    lens->navigation()->moveCursor(1);
-    waitForReveal();
-    QmlTestSupport::saveScreenshot(*window, "lens-pt-highlighted");
-    lens->navigation()->goUp();
-    waitForReveal();
-    QmlTestSupport::saveScreenshot(*window, "lens-pt-root");
-}

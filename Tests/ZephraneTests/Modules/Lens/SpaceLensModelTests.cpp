@@ -1,8 +1,8 @@
 #include "App/Announcer.hpp"
 #include "App/Preferences.hpp"
 #include "Modules/Lens/LensMarks.hpp"
-#include "Modules/Lens/LensText.hpp"
 #include "Modules/Lens/LensRowsModel.hpp"
+#include "Modules/Lens/LensText.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 #include "Painel/ByteFormat.hpp"
 #include "TempTree.hpp"
@@ -121,11 +121,8 @@ TEST(SpaceLensMarks, AnEnclosingMarkWinsWhicheverComesFirst) {
     ASSERT_EQ(categories.size(), 2u);
     EXPECT_EQ(categories[0].title, "docs");
     EXPECT_EQ(categories[0].items.front().size, 600);
-}
 
-TEST(SpaceLensMarks, MarkedNodesSkipWhatTheTreeNoLongerHolds) {
-    LensUnderTest lens;
-    lens.adopt(sampleTree());
+    // Marked nodes skip what the tree no longer holds.
     lens.selection()->set({url("/r/music"), url("/r/gone")});
     EXPECT_EQ(paths(lens.markedNodes()), (std::vector<std::string>{"/r/music"}));
 }
