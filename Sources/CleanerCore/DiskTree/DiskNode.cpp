@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <new>
 #include <utility>
+#include <vector>
 
 namespace CleanerCore {
 namespace {
@@ -46,21 +47,64 @@ struct DiskNode::Links {
     }
 };
 
+DiskNode::FolderPath::FolderPath(Pointer parent, std::string name)
+    : parent(std::move(parent)), name(std::move(name)) {
+    length = this->name.size();
+    if (this->parent)
+        length += this->parent->length + (this->parent->separated() ? 1 : 0);
+}
+
+DiskNode::FolderPath::~FolderPath() {
+    // Releases the chain above one link at a time: a recursive release of a chain thousands of
+    // folders deep would run out of stack.
+    Pointer next = std::move(parent);
+    while (next && next.use_count() == 1)
+        next = std::move(next->parent);
+}
+
+std::string DiskNode::FolderPath::string() const {
+    std::string out;
+    appendTo(out);
+    return out;
+}
+
+void DiskNode::FolderPath::appendTo(std::string& out) const {
+    const std::size_t start = out.size();
+    out.resize(start + length);
+    std::size_t end = start + length;
+    for (const FolderPath* at = this; at; at = at->parent.get()) {
+        end -= at->name.size();
+        out.replace(end, at->name.size(), at->name);
+        if (at->parent && at->parent->separated())
+            out[--end] = '/';
+    }
+}
+
+std::string_view DiskNode::FolderPath::lastName() const {
+    return parent ? std::string_view(name) : lastComponent(name);
+}
+
+bool DiskNode::FolderPath::isPrefixOf(std::string_view path) const {
+    if (path.size() < length)
+        return false;
+    std::size_t end = length;
+    for (const FolderPath* at = this; at; at = at->parent.get()) {
+        end -= at->name.size();
+        if (path.compare(end, at->name.size(), at->name) != 0)
+            return false;
+        if (at->parent && at->parent->separated() && path[--end] != '/')
+            return false;
+    }
+    return true;
+}
+
 DiskNode::DiskNode(const URL& url, std::optional<std::string> name, std::int64_t size, bool isDirectory,
                    std::int64_t itemCount, bool isAggregate, std::vector<Pointer> children)
     : bytes(size), items(itemCount) {
     auto own = std::make_shared<Text>();
-    own->chars = url.path();
-    own->pathLength = own->chars.size();
-    if (name) {
-        nameOffset = static_cast<std::uint32_t>(own->chars.size());
-        nameLength = clampedLength(name->size());
-        own->chars += *name;
-    } else {
-        const std::string_view last = lastComponent(own->path());
-        nameOffset = static_cast<std::uint32_t>(last.data() - own->chars.data());
-        nameLength = clampedLength(last.size());
-    }
+    own->folder = FolderPath::root(url.path());
+    own->chars = name ? *name : std::string(own->folder->lastName());
+    nameLength = clampedLength(own->chars.size());
     flags = static_cast<std::uint8_t>((isDirectory ? directoryFlag : 0) | (isAggregate ? aggregateFlag : 0) |
                                       folderItselfFlag);
     text = own.get();
@@ -79,8 +123,24 @@ DiskNode::DiskNode(const Text& shared, std::shared_ptr<const void> textOwner, bo
 }
 
 DiskNode::~DiskNode() {
-    if (links)
-        Links::destroy(links);
+    if (!links)
+        return;
+    // Subtrees owned only here are released from a list, not by recursion: a chain of folders
+    // thousands deep would run out of stack.
+    std::vector<Pointer> pending;
+    const auto takeSoleSubtrees = [&pending](Links& from) {
+        Pointer* slot = from.slots();
+        for (std::size_t i = 0; i < from.count; ++i)
+            if (slot[i].use_count() == 1 && !slot[i]->children().empty())
+                pending.push_back(std::move(slot[i]));
+    };
+    takeSoleSubtrees(*links);
+    Links::destroy(links);
+    while (!pending.empty()) {
+        Pointer node = std::move(pending.back());
+        pending.pop_back();
+        takeSoleSubtrees(*node->links);
+    }
 }
 
 DiskNode::DiskNode(DiskNode&& other) noexcept
@@ -100,49 +160,82 @@ std::string DiskNode::path() const {
 }
 
 void DiskNode::appendPath(std::string& out) const {
-    if (flags & folderItselfFlag)
-        out += text->path();
-    else
-        appendChild(out, text->path(), lastUrlComponent());
+    const FolderPath& folder = *text->folder;
+    folder.appendTo(out);
+    if (!(flags & folderItselfFlag)) {
+        if (folder.separated())
+            out += '/';
+        out += lastUrlComponent();
+    }
 }
 
 bool DiskNode::pathEquals(std::string_view path) const {
-    const std::string_view folder = text->path();
+    const FolderPath& folder = *text->folder;
     if (flags & folderItselfFlag)
-        return path == folder;
-    const std::size_t gap = separated(folder) ? 1 : 0;
+        return folder.equals(path);
+    const std::size_t gap = folder.separated() ? 1 : 0;
     const std::string_view last = lastUrlComponent();
-    return path.size() == folder.size() + gap + last.size() && path.starts_with(folder) &&
-           (gap == 0 || path[folder.size()] == '/') && path.ends_with(last);
+    return path.size() == folder.size() + gap + last.size() && path.ends_with(last) &&
+           (gap == 0 || path[folder.size()] == '/') && folder.isPrefixOf(path);
 }
 
 bool DiskNode::pathIsPrefixOf(std::string_view path) const {
-    const std::string_view folder = text->path();
-    if (!path.starts_with(folder))
+    const FolderPath& folder = *text->folder;
+    if (!folder.isPrefixOf(path))
         return false;
-    if (flags & folderItselfFlag)
-        return true;
     path.remove_prefix(folder.size());
-    if (separated(folder)) {
+    if (flags & folderItselfFlag)
+        return path.empty() || path.starts_with('/') || !folder.separated();
+    if (folder.separated()) {
         if (!path.starts_with('/'))
             return false;
         path.remove_prefix(1);
     }
-    return path.starts_with(lastUrlComponent());
+    const std::string_view last = lastUrlComponent();
+    return path.starts_with(last) && (path.size() == last.size() || path[last.size()] == '/');
+}
+
+bool DiskNode::pathIsPrefixBelow(const DiskNode& parent, std::string_view path) const {
+    const FolderPath* above = parent.text->folder.get();
+    const FolderPath* folder = text->folder.get();
+    std::string_view last;
+    if ((flags & folderItselfFlag) && folder->parentPath() == above && (parent.flags & folderItselfFlag))
+        last = folder->lastName();
+    else if (!(flags & folderItselfFlag) && folder == above && (parent.flags & folderItselfFlag))
+        last = lastUrlComponent();
+    else
+        return pathIsPrefixOf(path); // built from whole paths: compare them whole
+    std::size_t start = above->size();
+    if (above->separated()) {
+        if (path.size() <= start || path[start] != '/')
+            return false;
+        ++start;
+    }
+    const std::size_t end = start + last.size();
+    return path.size() >= end && path.compare(start, last.size(), last) == 0 &&
+           (path.size() == end || path[end] == '/');
 }
 
 DiskNode::Pointer DiskNode::find(const Pointer& node, const URL& url) {
     return find(node, standardizedPath(url.path()));
 }
 
+// A child's path is a prefix of the path looked for only on the way to it, and at most one child
+// is on that way, so the search is a loop, however deep the tree.
 DiskNode::Pointer DiskNode::find(const Pointer& node, std::string_view path) {
-    if (node->pathEquals(path))
-        return node;
     if (!node->pathIsPrefixOf(path))
         return nullptr;
-    for (const Pointer& child : node->children())
-        if (Pointer hit = find(child, path))
-            return hit;
+    for (Pointer at = node; at;) {
+        if (at->pathEquals(path))
+            return at;
+        Pointer next;
+        for (const Pointer& child : at->children())
+            if (child->pathIsPrefixBelow(*at, path)) {
+                next = child;
+                break;
+            }
+        at = std::move(next);
+    }
     return nullptr;
 }
 
@@ -151,17 +244,19 @@ std::optional<std::vector<DiskNode::Pointer>> DiskNode::pathTo(const Pointer& no
 }
 
 std::optional<std::vector<DiskNode::Pointer>> DiskNode::pathTo(const Pointer& node, std::string_view path) {
-    if (node->pathEquals(path))
-        return std::vector<Pointer>{node};
     if (!node->pathIsPrefixOf(path))
         return std::nullopt;
-    for (const Pointer& child : node->children()) {
-        if (auto below = pathTo(child, path)) {
-            below->insert(below->begin(), node);
-            return below;
-        }
+    std::vector<Pointer> way{node};
+    while (!way.back()->pathEquals(path)) {
+        const Pointer& at = way.back();
+        const auto children = at->children();
+        const auto next = std::find_if(children.begin(), children.end(),
+                                       [&](const Pointer& child) { return child->pathIsPrefixBelow(*at, path); });
+        if (next == children.end())
+            return std::nullopt;
+        way.push_back(*next);
     }
-    return std::nullopt;
+    return way;
 }
 
 DiskNode::Pointer DiskNode::removing(const Pointer& node, const std::unordered_set<URL>& urls) {

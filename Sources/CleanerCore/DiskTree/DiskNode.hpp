@@ -26,12 +26,44 @@ public:
     // The last path component of a folder's aggregate node, which stands for no real item.
     static constexpr std::string_view smallItemsComponent = ".zephrane-small-items";
 
-    // The text of one folder's nodes: the folder's path, followed by the names of its children.
-    struct Text {
-        std::string chars;
-        std::size_t pathLength = 0;
+    // A folder's path as a chain of names up to the scan's root, so that a deep tree holds each
+    // name once instead of one whole path per level. Shared by every tree that holds the folder.
+    struct FolderPath {
+        using Pointer = std::shared_ptr<const FolderPath>;
 
-        std::string_view path() const { return std::string_view(chars).substr(0, pathLength); }
+        // `parent` is null at the root of a chain, whose `name` is a whole path.
+        FolderPath(Pointer parent, std::string name);
+        ~FolderPath();
+        FolderPath(const FolderPath&) = delete;
+        FolderPath& operator=(const FolderPath&) = delete;
+
+        static Pointer root(std::string path) { return std::make_shared<const FolderPath>(nullptr, std::move(path)); }
+        static Pointer child(Pointer parent, std::string_view name) {
+            return std::make_shared<const FolderPath>(std::move(parent), std::string(name));
+        }
+
+        std::size_t size() const { return length; }
+        std::string string() const;
+        void appendTo(std::string& out) const;
+        // The last component: the name, or the root path's last component.
+        std::string_view lastName() const;
+        // Whether `path` starts with this whole path (a component boundary is not checked).
+        bool isPrefixOf(std::string_view path) const;
+        bool equals(std::string_view path) const { return path.size() == length && isPrefixOf(path); }
+        // A child's path needs a "/" after this one (not after "/").
+        bool separated() const { return !name.ends_with('/'); }
+        const FolderPath* parentPath() const { return parent.get(); }
+
+    private:
+        mutable Pointer parent; // mutable only so a long chain can be released without recursion
+        std::string name;
+        std::size_t length;
+    };
+
+    // The text of one folder's nodes: the folder's path, then its own name and its children's names.
+    struct Text {
+        FolderPath::Pointer folder;
+        std::string chars;
     };
 
     // One folder's text and its leaves, in one shared allocation instead of one per leaf. The
@@ -44,7 +76,7 @@ public:
              std::int64_t itemCount, bool isAggregate, std::vector<Pointer> children);
 
     // A node whose strings live in `text`: its name is chars[nameOffset, nameOffset + nameLength),
-    // and its path is text.path() itself (`isFolderItself`) or text.path() + "/" + name (for an
+    // and its path is text.folder itself (`isFolderItself`) or text.folder + "/" + name (for an
     // aggregate, + "/" + smallItemsComponent). `textOwner` keeps `text` alive; it may only be null
     // for a leaf of the Block that holds `text`.
     DiskNode(const Text& text, std::shared_ptr<const void> textOwner, bool isFolderItself,
@@ -91,6 +123,8 @@ private:
     std::string_view lastUrlComponent() const { return isAggregate() ? smallItemsComponent : name(); }
     bool pathEquals(std::string_view path) const;
     bool pathIsPrefixOf(std::string_view path) const;
+    // pathIsPrefixOf for a child of `parent`, knowing that the parent's path is a prefix of `path`.
+    bool pathIsPrefixBelow(const DiskNode& parent, std::string_view path) const;
     static Pointer find(const Pointer& node, std::string_view path);
     static std::optional<std::vector<Pointer>> pathTo(const Pointer& node, std::string_view path);
 

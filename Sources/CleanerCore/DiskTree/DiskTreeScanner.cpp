@@ -28,6 +28,7 @@ namespace {
 using Platform::EntryKind;
 using Platform::FileDescriptor;
 using Platform::ListedEntry;
+using FolderPath = DiskNode::FolderPath;
 
 // Folders of depth 1 to 5 are listed in tasks of their own; each folder of depth 6 is one
 // sequential walk.
@@ -152,14 +153,14 @@ public:
         : scanner(scanner), counter(counter), device(device), stop(std::move(stop)), unreadable(unreadable) {}
 
     // Lists `fd` and, while fan-out is allowed, measures its subfolders and packages in a task group.
-    DiskNode::Pointer scanFolder(FileDescriptor fd, std::string path, int depth) {
+    DiskNode::Pointer scanFolder(FileDescriptor fd, std::string path, FolderPath::Pointer folderPath, int depth) {
         if (!fansOut(path))
-            return scanFolderSync(fd.get(), std::move(path));
+            return scanFolderSync(fd.get(), std::move(path), std::move(folderPath));
         Listing listing = list(fd.get(), path);
         const std::size_t folderCount = listing.folders.size();
         const std::size_t opens = folderCount + listing.packages.size();
         if (opens == 0)
-            return folderNode(path, listing);
+            return folderNode(std::move(folderPath), listing);
         // Every subfolder is opened by name from this folder's descriptor, closed once they all are.
         Platform::SharedFolder folder(std::move(fd), opens);
         std::vector<std::optional<Child>> results(opens);
@@ -168,7 +169,7 @@ public:
             group.run([&, i] {
                 const NameRef name = listing.folders[i];
                 results[i] = folderTask(folder, listing.cString(name), childPath(path, listing.view(name)),
-                                        depth + 1);
+                                        FolderPath::child(folderPath, listing.view(name)), depth + 1);
             });
         for (std::size_t i = 0; i < listing.packages.size(); ++i)
             group.run([&, i] {
@@ -190,17 +191,17 @@ public:
         for (std::optional<Child>& result : results)
             if (result)
                 listing.children.push_back(std::move(*result));
-        return folderNode(path, listing);
+        return folderNode(std::move(folderPath), listing);
     }
 
     // The subtree of the open folder `fd` (not closed here), one folder after another with a stack
     // of its own, so no depth can exhaust the thread's stack. The top of the stack is always open;
     // below the first `heldDescriptors` levels, a level gives its descriptor back while its
     // subfolders are walked and gets it again through their "..", checked to be the same folder.
-    DiskNode::Pointer scanFolderSync(int fd, std::string path) {
+    DiskNode::Pointer scanFolderSync(int fd, std::string path, FolderPath::Pointer folderPath) {
         Descent descent;
         descent.path = std::move(path);
-        enter(descent, fd, false);
+        enter(descent, fd, false, std::move(folderPath));
         for (;;) {
             Level& top = descent.stack.back();
             if (top.next < top.listing.folders.size() && !stop.stop_requested()) {
@@ -208,9 +209,10 @@ public:
                 const int childFd = Platform::openDirectory(top.fd, top.listing.cString(name));
                 const int error = errno;
                 descend(descent.path, top.listing.view(name));
+                FolderPath::Pointer childFolder = FolderPath::child(top.folderPath, top.listing.view(name));
                 if (childFd < 0) {
                     UnreadableFolders::failed(unreadable, error);
-                    top.listing.children.push_back(asChild(emptyFolder(descent.path)));
+                    top.listing.children.push_back(asChild(emptyFolder(std::move(childFolder))));
                     descent.path.resize(top.pathLength);
                     continue;
                 }
@@ -219,12 +221,12 @@ public:
                     Platform::SystemCalls::current().close(top.fd);
                     top.fd = -1;
                 }
-                enter(descent, childFd, true);
+                enter(descent, childFd, true, std::move(childFolder));
                 continue;
             }
             Level done = std::move(top);
             descent.stack.pop_back();
-            DiskNode::Pointer node = folderNode(descent.path, done.listing);
+            DiskNode::Pointer node = folderNode(std::move(done.folderPath), done.listing);
             if (descent.stack.empty())
                 return node;
             Level& parent = descent.stack.back();
@@ -232,7 +234,7 @@ public:
             if (parent.fd < 0 && !stop.stop_requested()) {
                 parent.fd = Platform::reopenParent(done.fd, parent.identity);
                 if (parent.fd < 0) // moved or swapped meanwhile: what it still held can't be reached
-                    abandon(descent, parent);
+                    abandon(parent);
             }
             if (done.fd >= 0)
                 Platform::SystemCalls::current().close(done.fd);
@@ -240,9 +242,9 @@ public:
         }
     }
 
-    DiskNode::Pointer emptyFolder(std::string_view path) {
+    DiskNode::Pointer emptyFolder(FolderPath::Pointer folderPath) {
         Listing nothing;
-        return folderNode(std::move(path), nothing);
+        return folderNode(std::move(folderPath), nothing);
     }
 
 private:
@@ -250,6 +252,7 @@ private:
         int fd = -1; // -1 while parked, to bound the open descriptors
         bool owned = true;
         std::size_t pathLength = 0; // this level's path is the descent's path up to here
+        FolderPath::Pointer folderPath;
         Listing listing;
         std::size_t next = 0;              // the next of listing.folders to descend into
         Platform::FolderIdentity identity; // known once parked
@@ -272,7 +275,7 @@ private:
     }
 
     std::optional<Child> folderTask(Platform::SharedFolder& parent, const char* name, std::string path,
-                                    int depth) {
+                                    FolderPath::Pointer folderPath, int depth) {
         if (stop.stop_requested()) {
             parent.opened();
             return std::nullopt;
@@ -282,11 +285,11 @@ private:
         parent.opened();
         if (!fd) {
             UnreadableFolders::failed(unreadable, error);
-            return asChild(emptyFolder(path));
+            return asChild(emptyFolder(std::move(folderPath)));
         }
         if (depth < fanOutDepth && fansOut(path))
-            return asChild(scanFolder(std::move(fd), std::move(path), depth));
-        return asChild(scanFolderSync(fd.get(), std::move(path)));
+            return asChild(scanFolder(std::move(fd), std::move(path), std::move(folderPath), depth));
+        return asChild(scanFolderSync(fd.get(), std::move(path), std::move(folderPath)));
     }
 
     Listing list(int fd, const std::string& path) {
@@ -368,8 +371,8 @@ private:
         return kept;
     }
 
-    void enter(Descent& descent, int fd, bool owned) {
-        Level level{fd, owned, descent.path.size(), {}, 0, {}};
+    void enter(Descent& descent, int fd, bool owned, FolderPath::Pointer folderPath) {
+        Level level{fd, owned, descent.path.size(), std::move(folderPath), {}, 0, {}};
         level.listing = list(fd, descent.path);
         for (const NameRef name : level.listing.packages) {
             const FileDescriptor package(Platform::openDirectory(fd, level.listing.cString(name)));
@@ -382,18 +385,17 @@ private:
     }
 
     // A level that could not be got back: the subfolders it had left become empty folders.
-    void abandon(Descent& descent, Level& level) {
+    void abandon(Level& level) {
         if (level.next < level.listing.folders.size() && unreadable)
             unreadable->add();
         for (; level.next < level.listing.folders.size(); ++level.next) {
-            descend(descent.path, level.listing.view(level.listing.folders[level.next]));
-            level.listing.children.push_back(asChild(emptyFolder(descent.path)));
-            descent.path.resize(level.pathLength);
+            const std::string_view name = level.listing.view(level.listing.folders[level.next]);
+            level.listing.children.push_back(asChild(emptyFolder(FolderPath::child(level.folderPath, name))));
         }
     }
 
     // The node of one folder: its children ordered, the small ones folded into one aggregate.
-    DiskNode::Pointer folderNode(std::string_view path, Listing& listing) {
+    DiskNode::Pointer folderNode(FolderPath::Pointer folderPath, Listing& listing) {
         std::vector<Child>& children = listing.children;
         std::int64_t total = listing.foldedSize, count = listing.foldedCount;
         for (const Child& child : children) {
@@ -413,15 +415,16 @@ private:
         // One block for the folder's path, the names of its kept leaves and the leaves themselves.
         auto block = std::make_shared<DiskNode::Block>();
         DiskNode::Text& text = block->text;
-        std::size_t length = path.size() + smallName.size(), leafCount = smallCount > 0 ? 1 : 0;
+        const std::string_view folderName = folderPath->lastName();
+        std::size_t length = folderName.size() + smallName.size(), leafCount = smallCount > 0 ? 1 : 0;
         for (auto it = children.begin(); it != kept; ++it)
             if (!it->node) {
                 length += it->name.length;
                 ++leafCount;
             }
         text.chars.reserve(length);
-        text.chars.append(path);
-        text.pathLength = text.chars.size();
+        text.chars.append(folderName);
+        text.folder = std::move(folderPath);
         block->leaves.reserve(leafCount);
         std::vector<DiskNode::Pointer> nodes;
         nodes.reserve(static_cast<std::size_t>(kept - children.begin()) + (smallCount > 0 ? 1 : 0));
@@ -443,10 +446,8 @@ private:
         if (smallCount > 0)
             addLeaf(smallName, smallSize, smallCount, true);
         children.clear();
-        const std::string_view folderName = DiskNode::lastComponent(text.path());
-        const auto folderNameOffset = static_cast<std::size_t>(folderName.data() - text.chars.data());
-        return std::make_shared<const DiskNode>(text, std::move(block), true, folderNameOffset,
-                                                folderName.size(), total, true, count, false,
+        return std::make_shared<const DiskNode>(text, std::move(block), true, 0, folderName.size(), total, true,
+                                                count, false,
                                                 std::move(nodes));
     }
 
@@ -484,14 +485,14 @@ DiskNode::Pointer DiskTreeScanner::scan(const Reporting& reporting, std::stop_to
     Walk walk(*this, counter, identity.device, stop, unreadable);
     DiskNode::Pointer tree;
     if (!fd) {
-        tree = walk.emptyFolder(path);
+        tree = walk.emptyFolder(DiskNode::FolderPath::root(path));
     } else {
         // The pool may have more threads than cores while this scan runs.
         const auto allowed = tbb::global_control::active_value(tbb::global_control::max_allowed_parallelism);
         const tbb::global_control widen(tbb::global_control::max_allowed_parallelism,
                                         std::max<std::size_t>(allowed, static_cast<std::size_t>(walkers())));
         tbb::task_arena arena(walkers());
-        arena.execute([&] { tree = walk.scanFolder(std::move(fd), path, 0); });
+        arena.execute([&] { tree = walk.scanFolder(std::move(fd), path, DiskNode::FolderPath::root(path), 0); });
     }
     if (reporting)
         reporting(counter.total(), std::nullopt);

@@ -9,6 +9,7 @@
 
 #include <cstring>
 #include <fcntl.h>
+#include <malloc.h>
 #include <random>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -204,6 +205,30 @@ TEST(DiskTreeAgreement, ADeepChainAgreesAndAChainPastThePathLimitIsWalkedWhole) 
     EXPECT_EQ(depth, 3000);
     EXPECT_LT(calls.openPeak, 100);
     EXPECT_EQ(calls.openNow, 0);
+}
+
+// Each level holds its own name, not its whole path: a 20,000-level chain once took 400 MB and
+// overflowed the stack when the tree was released. The deepest file is found by its path.
+TEST(DiskTreeAgreement, ATwentyThousandLevelChainStaysSmallAndIsReleasedWhole) {
+    TempTree tree;
+    const TestSupport::DeepChain chain(tree.root(), 20'000);
+    const std::size_t heapBefore = mallinfo2().uordblks;
+    auto scanned = DiskTreeScanner{tree.root().string(), 1, 1}.scan(DiskTreeScanner::Reporting{});
+    const std::size_t heapAfter = mallinfo2().uordblks;
+    if (heapAfter > heapBefore) { // malloc statistics are empty under a sanitizer
+        EXPECT_LT(heapAfter - heapBefore, 32u << 20);
+    }
+    EXPECT_EQ(scanned->size(), chain.total());
+    std::string deepest = tree.root().string();
+    for (int level = 0; level < 20'000; ++level)
+        deepest += "/d";
+    deepest += "/f";
+    const auto way = DiskNode::pathTo(scanned, URL::file(deepest));
+    ASSERT_TRUE(way.has_value());
+    EXPECT_EQ(way->size(), 20'002u);
+    EXPECT_EQ(way->back()->path(), deepest);
+    EXPECT_EQ(DiskNode::find(scanned, URL::file(deepest + "x")), nullptr);
+    scanned.reset();
 }
 
 // Deep levels that still have folders to visit give their descriptors back for a while and get
