@@ -43,8 +43,7 @@ QQuickItem* findItem(QQuickWindow& window, const QString& text) {
 }
 
 void click(QQuickWindow& window, QQuickItem& item) {
-    const QPointF centre = item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
-    QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+    QmlTestSupport::click(window, item);
     QmlTestSupport::settle();
 }
 
