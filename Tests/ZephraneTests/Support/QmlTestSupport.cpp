@@ -10,6 +10,8 @@
 #include <QQuickWindow>
 #include <QTest>
 
+#include <gtest/gtest.h>
+
 namespace QmlTestSupport {
 namespace {
 
@@ -44,6 +46,11 @@ QStringList WarningCollector::take() {
     QStringList out;
     out.swap(collected);
     return out;
+}
+
+void WarningCollector::expectNone(const QString& context) {
+    const QStringList seen = take();
+    EXPECT_TRUE(seen.isEmpty()) << context.toStdString() << seen.join('\n').toStdString();
 }
 
 void settle(int milliseconds) {

@@ -21,6 +21,8 @@ public:
     WarningCollector& operator=(const WarningCollector&) = delete;
 
     QStringList take();
+    // Fails the test if any message came since the last look, `context` leading the report.
+    void expectNone(const QString& context = {});
 };
 
 // Lets animations and pending layouts run for a moment.

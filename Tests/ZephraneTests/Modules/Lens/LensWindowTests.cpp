@@ -59,8 +59,7 @@ protected:
     }
     void TearDown() override {
         QmlTestSupport::useLanguage("en");
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+        warnings.expectNone();
     }
 
     QQuickItem* find(const char* name) const {

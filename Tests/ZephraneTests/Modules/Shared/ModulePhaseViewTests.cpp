@@ -74,8 +74,7 @@ protected:
     void TearDown() override {
         delete window;
         QmlTestSupport::useLanguage("en");
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+        warnings.expectNone();
     }
 
     // A new window over a new model.
@@ -109,8 +108,7 @@ protected:
     }
     void shoot(const QString& phase, const QString& language, bool contrast) {
         QmlTestSupport::settle(80);
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << phase.toStdString() << ": " << seen.join('\n').toStdString();
+        warnings.expectNone(phase + ": ");
         QmlTestSupport::saveScreenshot(
             *window, QStringLiteral("phase-%1-%2%3").arg(phase, language, contrast ? "-contrast" : ""));
     }
