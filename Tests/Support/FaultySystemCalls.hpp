@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <filesystem>
 #include <functional>
 #include <sys/stat.h>
 
@@ -105,9 +106,9 @@ private:
 };
 
 // What `path` itself occupies on disk (its allocated blocks, links not followed); -1 if absent.
-inline std::int64_t allocatedBytes(const char* path) {
+inline std::int64_t allocatedBytes(const std::filesystem::path& path) {
     struct stat info {};
-    return ::lstat(path, &info) == 0 ? static_cast<std::int64_t>(info.st_blocks) * 512 : -1;
+    return ::lstat(path.c_str(), &info) == 0 ? static_cast<std::int64_t>(info.st_blocks) * 512 : -1;
 }
 
 } // namespace TestSupport

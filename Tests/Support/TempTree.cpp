@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 #include <string>
 
 namespace fs = std::filesystem;
@@ -65,6 +66,11 @@ fs::path TempTree::symlink(std::string_view relative, const fs::path& target) co
     fs::create_directories(link.parent_path());
     fs::create_symlink(target, link);
     return link;
+}
+
+std::string readText(const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 void isolateHome() {

@@ -27,6 +27,9 @@ private:
     std::filesystem::path base;
 };
 
+// A file's whole content; empty when it can't be read.
+std::string readText(const std::filesystem::path& path);
+
 // Points HOME (and the XDG folders) at a fresh temporary home for the whole test program, so that
 // nothing can reach the real one; aborts the program if that fails. Call once from main().
 void isolateHome();

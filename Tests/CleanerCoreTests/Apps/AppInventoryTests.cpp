@@ -6,19 +6,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 using namespace CleanerCore;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
 namespace {
-
-void writeText(const std::filesystem::path& path, const std::string& text) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << text;
-}
 
 std::string plist(const std::vector<std::pair<std::string, std::string>>& entries) {
     std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>";
@@ -28,10 +21,10 @@ std::string plist(const std::vector<std::pair<std::string, std::string>>& entrie
 }
 
 // An app bundle with an Info.plist; `entries` empty gives a plist without keys.
-std::filesystem::path bundle(const std::filesystem::path& path,
+std::filesystem::path bundle(const TestSupport::TempTree& tree, const std::string& relative,
                              const std::vector<std::pair<std::string, std::string>>& entries) {
-    writeText(path / "Contents/Info.plist", plist(entries));
-    return path;
+    tree.text(relative + "/Contents/Info.plist", plist(entries));
+    return tree.path(relative);
 }
 
 std::vector<std::string> names(const std::vector<InstalledApp>& apps) {
@@ -80,21 +73,23 @@ TEST(AppInventory, FindsBundlesOneFolderDeepSortedNaturallyWithoutDeduplication)
     TestSupport::TempTree tree;
     const auto system = tree.folder("Applications");
     const auto user = tree.folder("home/Applications");
-    bundle(system / "App 10.app",
+    bundle(tree, "Applications/App 10.app",
            {{"CFBundleIdentifier", "com.example.ten"}, {"CFBundleShortVersionString", "10"}});
-    bundle(system / "app 9.app", {{"CFBundleIdentifier", "com.example.nine"}});
-    bundle(system / "Utilities/Tool.app", {{"CFBundleIdentifier", "com.example.tool"}});
-    bundle(system / "Vendor/Sub/Deep.app", {{"CFBundleIdentifier", "com.example.deep"}});
-    bundle(system / ".Hidden.app", {});
-    bundle(system / "Upper.APP", {{"CFBundleIdentifier", "com.example.upper"}});
-    bundle(system / "Folder.app/Inner.app", {{"CFBundleIdentifier", "com.example.inner"}}); // never opened
-    tree.folder("Applications/Empty.app");                                                  // no Info.plist
+    bundle(tree, "Applications/app 9.app", {{"CFBundleIdentifier", "com.example.nine"}});
+    bundle(tree, "Applications/Utilities/Tool.app", {{"CFBundleIdentifier", "com.example.tool"}});
+    bundle(tree, "Applications/Vendor/Sub/Deep.app", {{"CFBundleIdentifier", "com.example.deep"}});
+    bundle(tree, "Applications/.Hidden.app", {});
+    bundle(tree, "Applications/Upper.APP", {{"CFBundleIdentifier", "com.example.upper"}});
+    bundle(tree, "Applications/Folder.app/Inner.app",
+           {{"CFBundleIdentifier", "com.example.inner"}}); // never opened
+    tree.folder("Applications/Empty.app");                 // no Info.plist
     tree.symlink("Applications/Linked.app", system / "App 10.app");
-    writeText(system / "Broken.app/Contents/Info.plist", "<plist><dict><key>CFBundle");
-    writeText(system / "Array.app/Contents/Info.plist", "<plist><array><string>x</string></array></plist>");
-    writeText(system / "Garbage.app/Contents/Info.plist", std::string("bplist00\xff\xff\x00\x01", 12));
-    writeText(system / "Binary.app/Contents/Info.plist", binaryPlist());
-    bundle(user / "Tool.app", {{"CFBundleIdentifier", "<integer>7</integer>"}});
+    tree.text("Applications/Broken.app/Contents/Info.plist", "<plist><dict><key>CFBundle");
+    tree.text("Applications/Array.app/Contents/Info.plist",
+              "<plist><array><string>x</string></array></plist>");
+    tree.text("Applications/Garbage.app/Contents/Info.plist", std::string("bplist00\xff\xff\x00\x01", 12));
+    tree.text("Applications/Binary.app/Contents/Info.plist", binaryPlist());
+    bundle(tree, "home/Applications/Tool.app", {{"CFBundleIdentifier", "<integer>7</integer>"}});
 
     const auto apps = AppInventory::installedApps(
         {URL::file(system.string()), URL::file(user.string()), URL::file(tree.path("missing").string())},
@@ -114,15 +109,16 @@ TEST(AppInventory, FindsBundlesOneFolderDeepSortedNaturallyWithoutDeduplication)
 TEST(AppInventory, KnownIdentifiersReachFiveLevelsAndSkipHiddenEntries) {
     TestSupport::TempTree tree;
     const auto root = tree.folder("Applications");
-    bundle(root / "Top.app", {{"CFBundleIdentifier", "COM.Example.Top"}});
-    bundle(root / "Top.app/Contents/Helpers/Helper.app", {{"CFBundleIdentifier", "com.example.top.helper"}});
-    bundle(root / "a/b/c/d/Level5.app", {{"CFBundleIdentifier", "com.example.five"}});
-    bundle(root / "a/b/c/d/e/Level6.app", {{"CFBundleIdentifier", "com.example.six"}});
-    bundle(root / ".hidden/Secret.app", {{"CFBundleIdentifier", "com.example.secret"}});
-    bundle(root / "NoID.app", {});
-    writeText(tree.path("share/applications/org.example.Desk.desktop"), "[Desktop Entry]\n");
-    writeText(tree.path("share/applications/kde4/okular.desktop"), "[Desktop Entry]\n");
-    writeText(tree.path("share/applications/readme.txt"), "");
+    bundle(tree, "Applications/Top.app", {{"CFBundleIdentifier", "COM.Example.Top"}});
+    bundle(tree, "Applications/Top.app/Contents/Helpers/Helper.app",
+           {{"CFBundleIdentifier", "com.example.top.helper"}});
+    bundle(tree, "Applications/a/b/c/d/Level5.app", {{"CFBundleIdentifier", "com.example.five"}});
+    bundle(tree, "Applications/a/b/c/d/e/Level6.app", {{"CFBundleIdentifier", "com.example.six"}});
+    bundle(tree, "Applications/.hidden/Secret.app", {{"CFBundleIdentifier", "com.example.secret"}});
+    bundle(tree, "Applications/NoID.app", {});
+    tree.text("share/applications/org.example.Desk.desktop", "[Desktop Entry]\n");
+    tree.text("share/applications/kde4/okular.desktop", "[Desktop Entry]\n");
+    tree.text("share/applications/readme.txt", "");
 
     AppInventory::Sources sources;
     sources.desktopEntryFolders = {tree.path("share/applications").string(), tree.path("nowhere").string()};
@@ -133,11 +129,11 @@ TEST(AppInventory, KnownIdentifiersReachFiveLevelsAndSkipHiddenEntries) {
 
 TEST(InstalledApp, FolderNamesBlockersAndAppleIdentifiers) {
     TestSupport::TempTree tree;
-    const auto path = bundle(tree.path("Zed.app"), {{"CFBundleName", "Zed Editor"}});
+    const auto path = bundle(tree, "Zed.app", {{"CFBundleName", "Zed Editor"}});
     const auto zed = InstalledApp::fromBundle(URL::file(path.string()));
     ASSERT_TRUE(zed.has_value());
     EXPECT_THAT(zed->folderNames(), UnorderedElementsAre("zed", "zed editor"));
-    const auto qq = InstalledApp::fromBundle(URL::file(bundle(tree.path("QQ.app"), {}).string()));
+    const auto qq = InstalledApp::fromBundle(URL::file(bundle(tree, "QQ.app", {}).string()));
     ASSERT_TRUE(qq.has_value());
     EXPECT_THAT(qq->folderNames(), IsEmpty());
 
@@ -158,10 +154,11 @@ TEST(InstalledApp, FolderNamesBlockersAndAppleIdentifiers) {
 
 TEST(AppBundleInfo, FeedAddressesAreTrimmedAndOnlyWebSchemesKept) {
     TestSupport::TempTree tree;
-    const auto path = bundle(tree.path("Feed.app"), {{"CFBundleIdentifier", "com.feed"},
-                                                     {"CFBundleVersion", "42"},
-                                                     {"SUFeedURL", " \n https://example.com/appcast.xml\t"}});
-    writeText(path / "Contents/_MASReceipt/receipt", "");
+    const auto path = bundle(tree, "Feed.app",
+                             {{"CFBundleIdentifier", "com.feed"},
+                              {"CFBundleVersion", "42"},
+                              {"SUFeedURL", " \n https://example.com/appcast.xml\t"}});
+    tree.text("Feed.app/Contents/_MASReceipt/receipt", "");
     const auto info = AppBundleInfo::fromBundle(URL::file(path.string()));
     ASSERT_TRUE(info.has_value());
     EXPECT_EQ(info->name, "Feed");
@@ -183,11 +180,11 @@ TEST(AppInventory, AppImagesAreKnownByTheirMagicNotTheirName) {
     const std::string elf = std::string("\x7f"
                                         "ELF\x02\x01\x01\x00",
                                         8);
-    writeText(home.path("Applications/Krita-5.2.AppImage"), elf + "AI\x02" + std::string(100, '\0'));
-    writeText(home.path(".local/bin/renamed"), elf + std::string("AI\x01", 3) + std::string(100, '\0'));
-    writeText(home.path(".local/bin/plain-elf"), elf + std::string(100, '\0'));
-    writeText(home.path("bin/Fake.AppImage"), "#!/bin/sh\n");
-    writeText(home.path("bin/truncated"), elf + "A");
+    home.text("Applications/Krita-5.2.AppImage", elf + "AI\x02" + std::string(100, '\0'));
+    home.text(".local/bin/renamed", elf + std::string("AI\x01", 3) + std::string(100, '\0'));
+    home.text(".local/bin/plain-elf", elf + std::string(100, '\0'));
+    home.text("bin/Fake.AppImage", "#!/bin/sh\n");
+    home.text("bin/truncated", elf + "A");
     home.symlink("bin/linked", home.path("Applications/Krita-5.2.AppImage"));
 
     const URL homeURL = URL::file(home.root().string());

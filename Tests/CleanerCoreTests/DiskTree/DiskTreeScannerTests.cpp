@@ -13,8 +13,8 @@
 #include <unistd.h>
 
 using namespace CleanerCore;
-using DiskTreeChecks::blocksOf;
 using DiskTreeChecks::malformation;
+using TestSupport::allocatedBytes;
 using TestSupport::TempTree;
 namespace fs = std::filesystem;
 
@@ -62,7 +62,7 @@ TEST(DiskTreeScanner, FoldsWhatIsBeyondAlwaysKeepAndSmallIntoOneAggregateLast) {
         for (int i = 0; i < 13; ++i)
             thirteen.file("f" + std::to_string(i), 10);
         const auto tree = scan(thirteen.root(), 1'000'000, 12);
-        const std::int64_t block = blocksOf(thirteen.path("f0"));
+        const std::int64_t block = allocatedBytes(thirteen.path("f0"));
         ASSERT_EQ(tree->children().size(), 13u);
         const DiskNode& small = *tree->children().back();
         EXPECT_TRUE(small.isAggregate());

@@ -107,15 +107,10 @@ TEST(LargeFileSort, EachModeThenNamesThenPaths) {
         EXPECT_EQ(sorted(sort, reversed, "en"), sorted(sort, files, "en")) << rawValue(sort);
 }
 
-TEST(LargeFileFilter, OptionsOfTheFilterBar) {
-    const auto sizes = SizeOption::choices();
-    EXPECT_EQ(sizes[0].bytes, SizeOption::scanFloor);
-    EXPECT_EQ(sizes[2].bytes, 1000000000);
+TEST(LargeFileFilter, TheFilterBarOffersEveryKindAfterAllAndItsChoicesRoundTrip) {
     const auto kinds = KindOption::options();
     ASSERT_EQ(kinds.size(), allFileKinds.size() + 1);
-    EXPECT_TRUE(kinds[0].isAll());
-    EXPECT_TRUE(kinds[0].kinds().empty());
-    EXPECT_EQ(kinds[5].kind, FileKind::diskImage);
+    EXPECT_TRUE(kinds[0].kinds().empty()) << "\"all\" filters nothing out";
     for (LargeFileAge age : allLargeFileAges)
         EXPECT_EQ(fromRaw<LargeFileAge>(rawValue(age)), age);
     for (LargeFileSort sort : allLargeFileSorts)

@@ -18,16 +18,13 @@
 using namespace CleanerCore;
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
+using TestSupport::allocatedBytes;
 using TestSupport::TempTree;
 namespace fs = std::filesystem;
 
 namespace {
 
 constexpr std::int64_t minimum = 64 * 1024;
-
-std::int64_t allocated(const fs::path& path) {
-    return TestSupport::allocatedBytes(path.c_str());
-}
 
 // Paths of the files, relative to `root`, in the given order.
 std::vector<std::string> relative(const std::vector<LargeFile>& files, const fs::path& root) {
@@ -58,7 +55,7 @@ TEST(LargeFileScanner, FindsLargeFilesAndPackagesButNothingHiddenSkippedOrProtec
     TempTree tree;
     const TestSupport::ScopedEnvironment dataHome("XDG_DATA_HOME", tree.path("Data"));
     tree.file("Work/exact.bin", minimum);
-    const std::int64_t floor = allocated(tree.path("Work/exact.bin"));
+    const std::int64_t floor = allocatedBytes(tree.path("Work/exact.bin"));
     tree.file("Work/below.bin", static_cast<std::size_t>(floor - 4096));
     tree.file("top.iso", minimum);
     tree.file("Library/skipped.bin", minimum);   // only right below the home
@@ -83,11 +80,11 @@ TEST(LargeFileScanner, FindsLargeFilesAndPackagesButNothingHiddenSkippedOrProtec
                             "Work/bad\xff\xfe.bin", "Work/exact.bin", "top.iso"));
     for (const LargeFile& file : found) {
         if (file.name() == "Album.photoslibrary") {
-            EXPECT_EQ(file.size, allocated(tree.path("Pictures/Album.photoslibrary/a")) +
-                                     allocated(tree.path("Pictures/Album.photoslibrary/b")));
+            EXPECT_EQ(file.size, allocatedBytes(tree.path("Pictures/Album.photoslibrary/a")) +
+                                     allocatedBytes(tree.path("Pictures/Album.photoslibrary/b")));
             EXPECT_EQ(file.kind, FileKind::other);
         } else {
-            EXPECT_EQ(file.size, allocated(file.url.path()));
+            EXPECT_EQ(file.size, allocatedBytes(file.url.path()));
         }
         if (file.name() == "kept.mkv") {
             EXPECT_EQ(file.kind, FileKind::video);

@@ -6,8 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -43,13 +41,6 @@ protected:
     fs::path dataHome;
 };
 
-std::string readText(const fs::path& path) {
-    std::ifstream in(path);
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
 } // namespace
 
 TEST_F(VolumeTrash, UsesTheUsersOwnTopDirectoryTrashWithRelativePaths) {
@@ -57,8 +48,8 @@ TEST_F(VolumeTrash, UsesTheUsersOwnTopDirectoryTrashWithRelativePaths) {
     EXPECT_EQ(trash().trash(item.string()).error, 0);
     const fs::path bin = volume.path(".Trash-" + uid());
     EXPECT_TRUE(fs::exists(bin / "files/a b.jpg"));
-    EXPECT_TRUE(
-        readText(bin / "info/a b.jpg.trashinfo").starts_with("[Trash Info]\nPath=photos/a%20b.jpg\n"));
+    EXPECT_TRUE(TestSupport::readText(bin / "info/a b.jpg.trashinfo")
+                    .starts_with("[Trash Info]\nPath=photos/a%20b.jpg\n"));
     EXPECT_EQ(fs::status(bin).permissions(), fs::perms::owner_all);
     EXPECT_FALSE(fs::exists(dataHome / "Trash/files/a b.jpg"));
 }

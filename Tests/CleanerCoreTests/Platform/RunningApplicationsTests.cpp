@@ -12,11 +12,6 @@ using testing::ElementsAre;
 
 namespace {
 
-void writeText(const std::filesystem::path& path, const std::string& text) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path) << text;
-}
-
 std::string infoPlist(const std::string& identifier, const std::string& name) {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>"
            "<key>CFBundleIdentifier</key><string>" +
@@ -28,26 +23,26 @@ std::string infoPlist(const std::string& identifier, const std::string& name) {
 TEST(RunningApplications, BundlesComeFromTheExecutablesInnermostApp) {
     TestSupport::TempTree tree;
     const auto apps = tree.path("Applications");
-    writeText(apps / "Mail.app/Contents/Info.plist", infoPlist("com.example.mail", "Mail"));
-    writeText(apps / "Mail.app/Contents/MacOS/Mail", "");
-    writeText(apps / "Mail.app/Contents/Helpers/Sync.app/Contents/Info.plist",
+    tree.text("Applications/Mail.app/Contents/Info.plist", infoPlist("com.example.mail", "Mail"));
+    tree.text("Applications/Mail.app/Contents/MacOS/Mail", "");
+    tree.text("Applications/Mail.app/Contents/Helpers/Sync.app/Contents/Info.plist",
               infoPlist("com.example.mail.sync", "Sync"));
-    writeText(apps / "Mail.app/Contents/Helpers/Sync.app/Contents/MacOS/sync", "");
-    writeText(apps / "Bare.app/Contents/MacOS/bare", ""); // no Info.plist
+    tree.text("Applications/Mail.app/Contents/Helpers/Sync.app/Contents/MacOS/sync", "");
+    tree.text("Applications/Bare.app/Contents/MacOS/bare", ""); // no Info.plist
 
     const auto proc = tree.folder("proc");
     const auto process = [&](const std::string& pid, const std::string& comm,
                              const std::filesystem::path& exe) {
-        writeText(proc / pid / "comm", comm + "\n");
+        tree.text("proc/" + pid + "/comm", comm + "\n");
         tree.symlink("proc/" + pid + "/exe", exe);
     };
     process("10", "Mail", apps / "Mail.app/Contents/MacOS/Mail");
     process("11", "sync", apps / "Mail.app/Contents/Helpers/Sync.app/Contents/MacOS/sync");
     process("12", "bash", "/usr/bin/bash (deleted)");
     process("13", "bare", apps / "Bare.app/Contents/MacOS/bare");
-    writeText(proc / "14/comm", "kthreadd\n"); // no readable executable
+    tree.text("proc/14/comm", "kthreadd\n");   // no readable executable
     tree.folder("proc/15");                    // ended between listing and reading
-    writeText(proc / "self/comm", "ignored\n");
+    tree.text("proc/self/comm", "ignored\n");
 
     auto running = runningApplications(proc.string());
     std::ranges::sort(running, {}, &RunningApplication::pid);
@@ -71,17 +66,17 @@ TEST(RunningApplications, FlatpakInstancesAndApplicationScopesNameTheirApps) {
     TestSupport::TempTree tree;
     const auto proc = tree.folder("proc");
     const auto process = [&](int pid, int parent, const std::string& unit) {
-        writeText(proc / std::to_string(pid) / "comm", "proc" + std::to_string(pid) + "\n");
-        writeText(proc / std::to_string(pid) / "status",
+        tree.text("proc/" + std::to_string(pid) + "/comm", "proc" + std::to_string(pid) + "\n");
+        tree.text("proc/" + std::to_string(pid) + "/status",
                   "Name:\tx\nUmask:\t0022\nState:\tS\nPPid:\t" + std::to_string(parent) + "\n");
-        writeText(proc / std::to_string(pid) / "cgroup",
+        tree.text("proc/" + std::to_string(pid) + "/cgroup",
                   "0::/user.slice/user-1000.slice/user@1000.service/app.slice/" + unit + "\n");
     };
     process(20, 1, "app-flatpak-org.example.Viewer-4242.scope");
-    writeText(proc / "20/root/.flatpak-info",
+    tree.text("proc/20/root/.flatpak-info",
               "[Application]\nname = org.example.Viewer\nruntime=x\n[Instance]\nname=y\n");
     process(21, 20, "app-flatpak-org.example.Viewer-4242.scope");
-    writeText(proc / "21/root/.flatpak-info", "[Application]\nname=org.example.Viewer\n");
+    tree.text("proc/21/root/.flatpak-info", "[Application]\nname=org.example.Viewer\n");
     process(30, 1, "app-gnome-org.gnome.Terminal\\x2dPreview-777.scope");
     process(31, 30, "app-gnome-org.gnome.Terminal\\x2dPreview-777.scope");
     process(40, 1, "app-org.kde.dolphin@abc123.service");

@@ -13,11 +13,10 @@
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <unistd.h>
 
 using namespace CleanerCore;
+using TestSupport::readText;
 namespace fs = std::filesystem;
 
 namespace {
@@ -59,13 +58,6 @@ std::size_t countEntries(const fs::path& root) {
     for (auto it = fs::recursive_directory_iterator(root); it != fs::recursive_directory_iterator(); ++it)
         ++count;
     return count;
-}
-
-std::string readText(const fs::path& path) {
-    std::ifstream in(path);
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
 }
 
 std::string text(std::string_view key) {

@@ -32,11 +32,6 @@ RunningAppInfo linuxApp(std::int32_t pid, std::optional<std::string> id, bool re
     return bundle(pid, std::move(id), std::nullopt, regular);
 }
 
-void writeText(const std::filesystem::path& path, const std::string& text) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path) << text;
-}
-
 } // namespace
 
 TEST(MemoryHogs, OnlyRegularApplicationsOutsideTheSystemAndTheDesktopAreQuittable) {
@@ -95,17 +90,17 @@ TEST(ProcessMemory, ChargesAnApplicationScopeAsAWholeAndOtherProcessesTheirAnony
     const std::string rollup = "55d0c0a00000-7ffd8a1f2000 ---p 00000000 00:00 0    [rollup]\n"
                                "Rss:              300000 kB\nPss:              250000 kB\n"
                                "Anonymous:        200000 kB\nSwap:               1000 kB\nSwapPss:             900 kB\n";
-    writeText(tree.path("proc/20/cgroup"), "0::" + scope + "\n");
-    writeText(tree.path("proc/20/smaps_rollup"), rollup);
-    writeText(tree.path("sys/fs/cgroup" + scope + "/memory.current"), "1500000000\n");
+    tree.text("proc/20/cgroup", "0::" + scope + "\n");
+    tree.text("proc/20/smaps_rollup", rollup);
+    tree.text("sys/fs/cgroup" + scope + "/memory.current", "1500000000\n");
     // A terminal's shell sits in a scope of its own that is no application's.
-    writeText(tree.path("proc/21/cgroup"), "0::/user.slice/user-1000.slice/user@1000.service/app.slice/"
-                                           "vte-spawn-1234.scope\n");
-    writeText(tree.path("proc/21/smaps_rollup"), rollup);
+    tree.text("proc/21/cgroup", "0::/user.slice/user-1000.slice/user@1000.service/app.slice/"
+                                "vte-spawn-1234.scope\n");
+    tree.text("proc/21/smaps_rollup", rollup);
     // An application scope whose cgroup can't be read (cgroup v1) falls back to the process alone.
-    writeText(tree.path("proc/22/cgroup"), "1:name=systemd:/x\n0::/app.slice/app-org.kde.kate-7.scope\n");
-    writeText(tree.path("proc/22/smaps_rollup"), "Anonymous: 10 kB\n");
-    writeText(tree.path("proc/23/cgroup"), "0::/\n"); // gone before its memory was read
+    tree.text("proc/22/cgroup", "1:name=systemd:/x\n0::/app.slice/app-org.kde.kate-7.scope\n");
+    tree.text("proc/22/smaps_rollup", "Anonymous: 10 kB\n");
+    tree.text("proc/23/cgroup", "0::/\n"); // gone before its memory was read
 
     const auto usages = CleanerCore::ProcessMemory::footprints({22, 20, 23, 21, 24}, tree.path("proc").string(),
                                                                tree.path("sys").string());

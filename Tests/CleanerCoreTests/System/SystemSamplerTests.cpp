@@ -16,20 +16,15 @@ using namespace std::chrono_literals;
 
 namespace {
 
-void writeText(const std::filesystem::path& path, const std::string& text) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path) << text;
-}
-
 // A machine recorded as files: /proc and /sys as the kernel writes them, and a clock the test moves.
 struct RecordedMachine {
     TestSupport::TempTree tree;
     std::chrono::steady_clock::time_point now{};
 
     RecordedMachine() {
-        writeText(tree.path("proc/meminfo"), "MemTotal:       16000000 kB\nMemFree:         1000000 kB\n"
-                                             "MemAvailable:    6000000 kB\nBuffers:          200000 kB\n");
-        writeText(tree.path("proc/uptime"), "12345.67 23456.78\n");
+        tree.text("proc/meminfo", "MemTotal:       16000000 kB\nMemFree:         1000000 kB\n"
+                                  "MemAvailable:    6000000 kB\nBuffers:          200000 kB\n");
+        tree.text("proc/uptime", "12345.67 23456.78\n");
         // user nice system idle iowait irq softirq steal guest guest_nice
         ticks({{100, 10, 50, 800, 40, 0, 0, 5, 0, 0}, {200, 0, 100, 700, 0, 0, 0, 0, 0, 0}});
         interface("eth0", true, 1'000'000, 500'000);
@@ -55,18 +50,18 @@ struct RecordedMachine {
         for (const std::uint64_t field : totals)
             text += " " + std::to_string(field);
         text += "\n" + lines + "intr 12345 0 0\nctxt 99999\nbtime 1700000000\n";
-        writeText(tree.path("proc/stat"), text);
+        tree.text("proc/stat", text);
     }
     void interface(const std::string& name, bool physical, std::uint64_t in, std::uint64_t out) {
-        const auto folder = tree.path("sys/class/net/" + name);
-        writeText(folder / "statistics/rx_bytes", std::to_string(in) + "\n");
-        writeText(folder / "statistics/tx_bytes", std::to_string(out) + "\n");
-        if (physical && !std::filesystem::is_symlink(folder / "device"))
+        const std::string folder = "sys/class/net/" + name;
+        tree.text(folder + "/statistics/rx_bytes", std::to_string(in) + "\n");
+        tree.text(folder + "/statistics/tx_bytes", std::to_string(out) + "\n");
+        if (physical && !std::filesystem::is_symlink(tree.path(folder + "/device")))
             tree.symlink("sys/class/net/" + name + "/device", "../../../devices/pci0000:00/0000:00:1f.6");
     }
     void supply(const std::string& name, const std::map<std::string, std::string>& attributes) {
         for (const auto& [attribute, value] : attributes)
-            writeText(tree.path("sys/class/power_supply/" + name + "/" + attribute), value + "\n");
+            tree.text("sys/class/power_supply/" + name + "/" + attribute, value + "\n");
     }
 
     SystemSampler::Sources sources() const {
@@ -146,7 +141,7 @@ TEST(SystemSampler, SummaryHasNoRatesAndUnreadableSourcesFallBackAlone) {
     EXPECT_EQ(summary.memoryUsed, 10'000'000ull * 1024);
 
     std::filesystem::remove(machine.tree.path("proc/stat"));
-    writeText(machine.tree.path("proc/meminfo"), "MemTotal: 1000 kB\n"); // a kernel without MemAvailable
+    machine.tree.text("proc/meminfo", "MemTotal: 1000 kB\n"); // a kernel without MemAvailable
     SystemSampler::Sources sources = machine.sources();
     sources.diskPath = machine.tree.path("missing").string();
     SystemSampler sampler(sources, [&machine] { return machine.now; });

@@ -21,6 +21,7 @@
 
 using namespace CleanerCore;
 using testing::ElementsAre;
+using TestSupport::allocatedBytes;
 namespace fs = std::filesystem;
 
 namespace {
@@ -53,11 +54,6 @@ struct Fixture {
     }
 };
 
-std::int64_t allocated(const fs::path& path) {
-    struct stat info;
-    return ::lstat(path.c_str(), &info) == 0 ? info.st_blocks * 512 : -1;
-}
-
 } // namespace
 
 TEST(TrashBin, ListsItemsLargestFirstWithDatesFoldersWalkedAndLinksAtZero) {
@@ -76,12 +72,13 @@ TEST(TrashBin, ListsItemsLargestFirstWithDatesFoldersWalkedAndLinksAtZero) {
     for (const TrashEntry& entry : *entries)
         order.push_back(entry.url.lastPathComponent());
     EXPECT_THAT(order, ElementsAre("no info", "folder", "small.txt", "link"));
-    EXPECT_EQ((*entries)[1].size, allocated(inside));
+    EXPECT_EQ((*entries)[1].size, allocatedBytes(inside));
     EXPECT_EQ((*entries)[3].size, 0);
     EXPECT_FALSE((*entries)[0].dateAdded);
     EXPECT_EQ((*entries)[2].dateAdded,
               TrashInfo::deletionDate(std::string("[Trash Info]\nDeletionDate=") + kDate));
-    EXPECT_EQ(f.bin.size(), allocated(small) + allocated(inside) + allocated(f.trash / "files/no info"));
+    EXPECT_EQ(f.bin.size(),
+              allocatedBytes(small) + allocatedBytes(inside) + allocatedBytes(f.trash / "files/no info"));
     EXPECT_EQ(f.bin.items()->size(), 4u);
 }
 
@@ -108,11 +105,11 @@ TEST(TrashBin, EmptyingRemovesItemsInfoFilesAndCacheLinesForGood) {
     Fixture f;
     const fs::path outside = f.tree.file("elsewhere/target.txt", 10);
     const std::int64_t bytes =
-        allocated(f.item("a.txt", 5000)) + allocated(f.item("folder/deep/b.txt", 5000, false));
+        allocatedBytes(f.item("a.txt", 5000)) + allocatedBytes(f.item("folder/deep/b.txt", 5000, false));
     f.info("folder");
     f.tree.symlink("home/.local/share/Trash/files/link", outside);
     f.info("gone before"); // an info file whose item is no longer there
-    const std::int64_t loose = allocated(f.item("no info", 10, false));
+    const std::int64_t loose = allocatedBytes(f.item("no info", 10, false));
     std::ofstream(f.trash / "directorysizes") << "4096 1700000000 folder\n4096 1700000000 still%20here\n";
     f.tree.folder("home/.local/share/Trash/files/still here");
     f.info("still here");
@@ -129,8 +126,7 @@ TEST(TrashBin, EmptyingRemovesItemsInfoFilesAndCacheLinesForGood) {
     EXPECT_EQ(report.failures[0].url.path(), (f.trash / "files/still here").string());
     EXPECT_THAT(f.names("files"), ElementsAre("still here"));
     EXPECT_THAT(f.names("info"), ElementsAre("still here.trashinfo"));
-    std::ifstream cache(f.trash / "directorysizes");
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(cache), {}), "4096 1700000000 still%20here\n");
+    EXPECT_EQ(TestSupport::readText(f.trash / "directorysizes"), "4096 1700000000 still%20here\n");
     EXPECT_TRUE(fs::exists(outside));
     // Nothing went to a second trash.
     EXPECT_FALSE(

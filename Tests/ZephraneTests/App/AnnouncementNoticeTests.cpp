@@ -36,6 +36,5 @@ TEST(AnnouncementNotice, EachAnnouncementShowsTheNotificationAnewAlreadyNamed) {
 
     EXPECT_EQ(shownWith, QStringList({QStringLiteral("Scanning"), QStringLiteral("Scanning"),
                                       QStringLiteral("Scan finished, 4 KB found")}));
-    const QStringList seen = warnings.take();
-    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    warnings.expectNone();
 }

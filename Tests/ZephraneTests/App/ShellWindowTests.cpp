@@ -20,10 +20,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         QmlTestSupport::settle();
     }
-    void TearDown() override {
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
-    }
+    void TearDown() override { warnings.expectNone(); }
 
     QmlTestSupport::WarningCollector warnings;
     AppModel model;
@@ -38,8 +35,7 @@ TEST_F(ShellWindow, EveryChannelLoadsWithoutWarningsAndIsPhotographed) {
     for (Channel channel : Channels::allCases) {
         model.open(channel);
         QmlTestSupport::settle();
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << Channels::title(channel).toStdString() << ": " << seen.join('\n').toStdString();
+        warnings.expectNone(Channels::title(channel) + ": ");
         QmlTestSupport::saveScreenshot(*window, QStringLiteral("shell-%1").arg(Channels::rawValue(channel)));
     }
 }

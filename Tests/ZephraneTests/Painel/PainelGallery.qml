@@ -55,14 +55,8 @@ Window {
             Caption { text: "keys" }
             Row {
                 spacing: 8
-                PainelButton { text: "Scan"; kind: PainelButtonKind.Accent }
-                PainelButton { text: "Review" }
-                PainelButton { text: "Open"; kind: PainelButtonKind.Light }
-            }
-            Row {
-                spacing: 8
-                PainelButton { text: "Small"; size: PainelButtonSize.Small }
-                PainelButton { text: "Large"; size: PainelButtonSize.Large; kind: PainelButtonKind.Accent }
+                PainelButton { text: "Scan"; kind: PainelButtonKind.Accent; size: PainelButtonSize.Large }
+                PainelButton { text: "Open"; kind: PainelButtonKind.Light; size: PainelButtonSize.Small }
                 PainelButton { text: "Off"; enabled: false }
             }
             PainelButton { objectName: "focusedKey"; text: "Focused key" }
@@ -110,13 +104,10 @@ Window {
                     label: "Selected"
                 }
             }
-            LEDNumber { size: 40; locale: root.locale; bytes: 12500000000; ghostColor: "transparent" }
-            LEDNumber { size: 28; locale: root.locale; bytes: 999; unitColor: PainelTheme.accent }
-            LEDNumber { size: 28; locale: root.locale; bytes: 0 }
+            LEDNumber { size: 28; locale: root.locale; bytes: 999; unitColor: PainelTheme.accent; ghostColor: "transparent" }
             Caption { text: "led number: parts" }
             LEDNumber { size: 40; integer: "42"; fraction: "7"; unit: "%"; spoken: "42.7 percent"; color: PainelTheme.accent }
-            LEDNumber { size: 18; integer: "1,024"; unit: "files"; label: "Found" }
-            LEDNumber { width: 320; size: 32; integer: "88"; unit: "MB"; horizontalAlignment: Text.AlignRight }
+            LEDNumber { width: 320; size: 18; integer: "1,024"; unit: "files"; label: "Found"; horizontalAlignment: Text.AlignRight }
             Caption { text: "scan sweep" }
             Rectangle {
                 width: 320
@@ -134,9 +125,8 @@ Window {
 
             Caption { text: "led meters" }
             LEDMeter { objectName: "meter"; width: 300; fraction: 0.62; cells: 24; accentTail: 4; label: "Disk" }
-            LEDMeter { width: 300; fraction: 0.97; cells: 24; accentTail: 4; tint: LEDMeter.Accent }
             LEDMeter { width: 300; fraction: 0.003; cells: 24; tint: LEDMeter.Muted }
-            LEDMeter { width: 300; height: 14; fraction: 0.4; cells: 30; spacing: 3; cornerRadius: 0 }
+            LEDMeter { width: 300; height: 14; fraction: 0.97; cells: 30; spacing: 3; cornerRadius: 0; tint: LEDMeter.Accent }
             Item {
                 width: 300
                 height: 12
@@ -147,7 +137,6 @@ Window {
             Row {
                 spacing: 12
                 LEDMeter { axis: Qt.Vertical; width: 10; height: 120; fraction: 0.75; cells: 12; accentTail: 3 }
-                LEDMeter { axis: Qt.Vertical; width: 10; height: 120; fraction: 0.25; cells: 12; tint: LEDMeter.Accent }
                 LEDMeter { axis: Qt.Vertical; width: 24; height: 120; fraction: 0.5; cells: 8; fillsCrossAxis: false; cornerRadius: 3 }
             }
         }

@@ -38,8 +38,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
     }
     void TearDown() override {
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+        warnings.expectNone();
         QmlTestSupport::useLanguage("en");
     }
     QQuickItem* item(const char* name) const {

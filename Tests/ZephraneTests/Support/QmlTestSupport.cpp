@@ -6,8 +6,11 @@
 #include <QDir>
 #include <QImage>
 #include <QMutex>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
+
+#include <gtest/gtest.h>
 
 namespace QmlTestSupport {
 namespace {
@@ -45,6 +48,11 @@ QStringList WarningCollector::take() {
     return out;
 }
 
+void WarningCollector::expectNone(const QString& context) {
+    const QStringList seen = take();
+    EXPECT_TRUE(seen.isEmpty()) << context.toStdString() << seen.join('\n').toStdString();
+}
+
 void settle(int milliseconds) {
     QCoreApplication::processEvents();
     QTest::qWait(milliseconds);
@@ -59,6 +67,31 @@ QString saveScreenshot(QQuickWindow& window, const QString& name) {
 
 void useLanguage(const QString& localization) {
     AppLanguages::install(*QCoreApplication::instance(), localization);
+}
+
+QQuickItem* findItem(QQuickItem* root, const QString& name, bool visibleOnly) {
+    if (root->objectName() == name && (!visibleOnly || root->isVisible()))
+        return root;
+    for (QQuickItem* child : root->childItems())
+        if (QQuickItem* found = findItem(child, name, visibleOnly))
+            return found;
+    return nullptr;
+}
+
+void click(QQuickWindow& window, const QQuickItem& item) {
+    const QPointF centre = item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
+    QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+}
+
+bool finishes(const QFuture<void>& future, int milliseconds) {
+    return QTest::qWaitFor([&] { return future.isFinished(); }, milliseconds);
+}
+
+AnnouncementLog::AnnouncementLog()
+    : previous(Announcer::installSink([this](const QString& text) { said.append(text); })) {}
+
+AnnouncementLog::~AnnouncementLog() {
+    Announcer::installSink(previous);
 }
 
 } // namespace QmlTestSupport

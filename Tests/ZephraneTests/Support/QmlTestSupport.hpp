@@ -1,8 +1,12 @@
 #pragma once
 
+#include "App/Announcer.hpp"
+
+#include <QFuture>
 #include <QString>
 #include <QStringList>
 
+class QQuickItem;
 class QQuickWindow;
 
 namespace QmlTestSupport {
@@ -17,6 +21,8 @@ public:
     WarningCollector& operator=(const WarningCollector&) = delete;
 
     QStringList take();
+    // Fails the test if any message came since the last look, `context` leading the report.
+    void expectNone(const QString& context = {});
 };
 
 // Lets animations and pending layouts run for a moment.
@@ -27,5 +33,29 @@ QString saveScreenshot(QQuickWindow& window, const QString& name);
 
 // Switches the interface and engine language (en or pt-BR) for the tests that follow.
 void useLanguage(const QString& localization);
+
+// The first item of that name below `root`, searched through the visual tree (loaded screens are
+// not QObject children of their loaders); with `visibleOnly`, the first visible one.
+QQuickItem* findItem(QQuickItem* root, const QString& name, bool visibleOnly = false);
+
+// A left click in the middle of the item.
+void click(QQuickWindow& window, const QQuickItem& item);
+
+// Whether the future finishes within the time, events running meanwhile.
+bool finishes(const QFuture<void>& future, int milliseconds = 20000);
+
+// Records what the Announcer says while it lives.
+class AnnouncementLog {
+public:
+    AnnouncementLog();
+    ~AnnouncementLog();
+    AnnouncementLog(const AnnouncementLog&) = delete;
+    AnnouncementLog& operator=(const AnnouncementLog&) = delete;
+
+    QStringList said;
+
+private:
+    Announcer::Sink previous;
+};
 
 } // namespace QmlTestSupport

@@ -1,6 +1,6 @@
-#include "App/Announcer.hpp"
 #include "App/AppLanguage.hpp"
 #include "App/LanguageChoice.hpp"
+#include "Support/QmlTestSupport.hpp"
 
 #include <QSettings>
 #include <QSignalSpy>
@@ -28,26 +28,22 @@ protected:
 
 TEST_F(Language, StoredReadsOnlyOurTwoLanguagesFirstInTheList) {
     EXPECT_EQ(AppLanguages::stored(), AppLanguage::system) << "no override written";
-    store(QStringList{"en", "pt-BR"});
-    EXPECT_EQ(AppLanguages::stored(), AppLanguage::english);
-    store(QStringList{"pt-BR"});
-    EXPECT_EQ(AppLanguages::stored(), AppLanguage::portuguese);
-    // A one-element list read back from the settings file is plain text.
-    store(QStringLiteral("en"));
-    EXPECT_EQ(AppLanguages::stored(), AppLanguage::english);
-
-    store(QStringList{"fr", "en"});
-    EXPECT_EQ(AppLanguages::stored(), AppLanguage::system) << "only the first element counts";
-    store(QStringList{"pt"});
-    EXPECT_EQ(AppLanguages::stored(), AppLanguage::system);
-    store(QStringList{"system"});
-    EXPECT_EQ(AppLanguages::stored(), AppLanguage::system);
-    store(QStringList{});
-    EXPECT_EQ(AppLanguages::stored(), AppLanguage::system);
-    store(QByteArray("en"));
-    EXPECT_EQ(AppLanguages::stored(), AppLanguage::system) << "a value of another type";
-    store(7);
-    EXPECT_EQ(AppLanguages::stored(), AppLanguage::system);
+    // A one-element list comes back from the settings file as plain text; only the first element
+    // counts, and a value of another type is no choice.
+    const std::vector<std::pair<QVariant, AppLanguage>> rows{
+        {QStringList{"en", "pt-BR"}, AppLanguage::english},
+        {QStringList{"pt-BR"}, AppLanguage::portuguese},
+        {QStringLiteral("en"), AppLanguage::english},
+        {QStringList{"fr", "en"}, AppLanguage::system},
+        {QStringList{"pt"}, AppLanguage::system},
+        {QStringList{"system"}, AppLanguage::system},
+        {QStringList{}, AppLanguage::system},
+        {QByteArray("en"), AppLanguage::system},
+        {7, AppLanguage::system}};
+    for (const auto& [value, expected] : rows) {
+        store(value);
+        EXPECT_EQ(AppLanguages::stored(), expected) << value.toStringList().join(',').toStdString();
+    }
 }
 
 TEST_F(Language, StoredIgnoresTheOrganisationWideFallback) {
@@ -82,17 +78,17 @@ TEST(LanguageResolution, PortugueseIsTheFallbackNotEnglish) {
 TEST_F(Language, TheNoticeFollowsTheLanguageOfTheLaunch) {
     // Launched in English on a Portuguese desktop: Portuguese needs a restart, English again doesn't.
     store(QStringList{"en"});
-    QStringList announced;
-    const Announcer::Sink previous = Announcer::installSink([&](const QString& text) { announced.append(text); });
     LanguageChoice launchedInEnglish(AppLanguage::english, {"pt-BR"});
-    EXPECT_FALSE(launchedInEnglish.needsRelaunch());
-    launchedInEnglish.choose(AppLanguage::portuguese);
-    EXPECT_TRUE(launchedInEnglish.needsRelaunch());
-    launchedInEnglish.choose(AppLanguage::system);
-    EXPECT_TRUE(launchedInEnglish.needsRelaunch()) << "the desktop is Portuguese too";
-    ASSERT_EQ(announced.count(), 1) << "announced when it appears, not again while it stays";
-    EXPECT_EQ(announced.first(), qtTrId("settings.language.relaunchNotice"));
-    Announcer::installSink(previous);
+    {
+        QmlTestSupport::AnnouncementLog announced;
+        EXPECT_FALSE(launchedInEnglish.needsRelaunch());
+        launchedInEnglish.choose(AppLanguage::portuguese);
+        EXPECT_TRUE(launchedInEnglish.needsRelaunch());
+        launchedInEnglish.choose(AppLanguage::system);
+        EXPECT_TRUE(launchedInEnglish.needsRelaunch()) << "the desktop is Portuguese too";
+        EXPECT_EQ(announced.said, QStringList{qtTrId("settings.language.relaunchNotice")})
+            << "announced when it appears, not again while it stays";
+    }
     launchedInEnglish.choose(AppLanguage::english);
     EXPECT_FALSE(launchedInEnglish.needsRelaunch());
     EXPECT_EQ(launchedInEnglish.choice(), AppLanguage::english);

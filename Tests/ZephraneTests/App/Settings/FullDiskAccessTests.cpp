@@ -1,7 +1,7 @@
-#include "App/Announcer.hpp"
 #include "App/FullDiskAccess.hpp"
 #include "App/FullDiskAccessMonitor.hpp"
 #include "FaultySystemCalls.hpp"
+#include "Support/QmlTestSupport.hpp"
 #include "TempTree.hpp"
 
 #include <QSignalSpy>
@@ -83,18 +83,16 @@ protected:
     void SetUp() override {
         monitor.setProbes({path(tree, "Library/Mail")});
         monitor.resetForTesting();
-        previous = Announcer::installSink([this](const QString& text) { announced.append(text); });
     }
     void TearDown() override {
-        Announcer::installSink(previous);
         monitor.setProbes(FullDiskAccess::probes());
         monitor.resetForTesting();
         monitor.refresh();
     }
     TestSupport::TempTree tree;
     FullDiskAccessMonitor& monitor = FullDiskAccessMonitor::shared();
-    QStringList announced;
-    Announcer::Sink previous;
+    QmlTestSupport::AnnouncementLog log;
+    QStringList& announced = log.said;
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "App/LaunchAtLogin.hpp"
 #include "App/Preferences.hpp"
+#include "ScopedEnvironment.hpp"
 #include "TempTree.hpp"
 
 #include <QCoreApplication>
@@ -11,28 +12,16 @@
 
 namespace {
 
-// Points XDG_CONFIG_HOME at a temporary folder for one test and puts the old value back.
+// XDG_CONFIG_HOME in a temporary folder for one test.
 class LoginItem : public ::testing::Test {
 protected:
-    void SetUp() override {
-        saved = qgetenv("XDG_CONFIG_HOME");
-        config = QString::fromStdString(tree.path("config").string());
-        qputenv("XDG_CONFIG_HOME", config.toUtf8());
-        QSettings().remove(Preferences::launchAtLoginKey);
-    }
-    void TearDown() override {
-        qputenv("XDG_CONFIG_HOME", saved);
-        QSettings().remove(Preferences::launchAtLoginKey);
-    }
+    void SetUp() override { QSettings().remove(Preferences::launchAtLoginKey); }
+    void TearDown() override { QSettings().remove(Preferences::launchAtLoginKey); }
     QString entry() const { return config + "/autostart/zephrane.desktop"; }
-    static QString read(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    }
 
     TestSupport::TempTree tree;
-    QByteArray saved;
-    QString config;
+    QString config = QString::fromStdString(tree.path("config").string());
+    TestSupport::ScopedEnvironment configHome{"XDG_CONFIG_HOME", config.toStdString()};
 };
 
 } // namespace
@@ -41,7 +30,7 @@ TEST_F(LoginItem, OnWritesAnAutostartEntryForThisProgramAndOffRemovesIt) {
     ASSERT_EQ(LaunchAtLogin::entryPath(), entry());
     EXPECT_FALSE(LaunchAtLogin::isEnabled());
     EXPECT_TRUE(LaunchAtLogin::set(true));
-    const QString text = read(entry());
+    const QString text = QString::fromStdString(TestSupport::readText(entry().toStdString()));
     EXPECT_TRUE(text.startsWith("[Desktop Entry]\n")) << text.toStdString();
     EXPECT_TRUE(text.contains("\nType=Application\n"));
     EXPECT_TRUE(text.contains("\nExec=" + QCoreApplication::applicationFilePath() + "\n"))

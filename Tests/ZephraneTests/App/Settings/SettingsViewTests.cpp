@@ -43,8 +43,7 @@ QQuickItem* findItem(QQuickWindow& window, const QString& text) {
 }
 
 void click(QQuickWindow& window, QQuickItem& item) {
-    const QPointF centre = item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
-    QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+    QmlTestSupport::click(window, item);
     QmlTestSupport::settle();
 }
 
@@ -63,8 +62,7 @@ protected:
         monitor.setProbes(FullDiskAccess::probes());
         monitor.resetForTesting();
         monitor.refresh();
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+        warnings.expectNone();
     }
 
     QQuickWindow& load(const QByteArray& source = {}) {
@@ -122,8 +120,7 @@ TEST_F(SettingsWindow, LoadsInBothLanguagesWithEveryStateShown) {
         FullDiskAccessMonitor::shared().setProbes(FullDiskAccess::probes());
         FullDiskAccessMonitor::shared().refresh();
 
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << language.toStdString() << ": " << seen.join('\n').toStdString();
+        warnings.expectNone(language + ": ");
         window.reset();
     }
 }
@@ -216,6 +213,5 @@ TEST(ShellSettings, ControlCommaAndTheColumnKeyOpenTheSettingsWindow) {
     QmlTestSupport::saveScreenshot(*main, "shell-with-settings-key-pt-BR");
     settings->close();
     QmlTestSupport::useLanguage("en");
-    const QStringList seen = warnings.take();
-    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    warnings.expectNone();
 }

@@ -3,6 +3,7 @@
 #include "JunkHome.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
 #include "Support/QmlTestSupport.hpp"
+#include "TempTree.hpp"
 
 #include <QDir>
 #include <QPointer>
@@ -15,7 +16,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 namespace fs = std::filesystem;
 
@@ -42,28 +42,15 @@ void removeFixture() {
     fs::remove_all(trashFolder());
 }
 
-// The visible item of that name, searched through the visual tree (loaded screens are not QObject
-// children of their loaders).
-QQuickItem* findVisible(QQuickItem* root, const QString& name) {
-    for (QQuickItem* child : root->childItems()) {
-        if (child->objectName() == name && child->isVisible())
-            return child;
-        if (QQuickItem* found = findVisible(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 QQuickItem* find(QQuickWindow* window, const QString& name) {
-    QQuickItem* item = findVisible(window->contentItem(), name);
+    QQuickItem* item = QmlTestSupport::findItem(window->contentItem(), name, true);
     EXPECT_NE(item, nullptr) << name.toStdString();
     return item;
 }
 
 void click(QQuickWindow* window, QQuickItem* item) {
     ASSERT_NE(item, nullptr);
-    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
+    QmlTestSupport::click(*window, *item);
 }
 
 void waitFor(const std::function<bool()>& condition) {
@@ -111,7 +98,7 @@ void runJunkChannel(const QString& language) {
         devCaches->forceActiveFocus();
         QTest::keyClick(window, Qt::Key_Space);
         QmlTestSupport::settle(120);
-        const QPointer<QQuickItem> firstItem = findVisible(caches, "itemCheck");
+        const QPointer<QQuickItem> firstItem = QmlTestSupport::findItem(caches, "itemCheck", true);
         ASSERT_NE(firstItem, nullptr) << "Return opens the category";
         const auto& devGroup = junk.groups()[3];
         EXPECT_EQ(junk.selection()->stateOf(devGroup.items), (CleanupSelection::State{false, false}));
@@ -144,8 +131,7 @@ void runJunkChannel(const QString& language) {
         EXPECT_TRUE(fs::exists(trash / "files/com.example.tool"));
         EXPECT_TRUE(fs::exists(trash / "info/com.example.tool.trashinfo"));
         EXPECT_TRUE(fs::exists(trash / "files/Report.PART"));
-        std::ifstream info(trash / "info/Report.PART.trashinfo");
-        const std::string infoText((std::istreambuf_iterator<char>(info)), {});
+        const std::string infoText = TestSupport::readText(trash / "info/Report.PART.trashinfo");
         EXPECT_NE(infoText.find("Path=" + (home / "Downloads/Report.PART").string()), std::string::npos);
         EXPECT_NE(infoText.find("DeletionDate="), std::string::npos);
         EXPECT_FALSE(fs::exists(home / "Library/Caches/com.example.tool"));
@@ -160,8 +146,7 @@ void runJunkChannel(const QString& language) {
         QmlTestSupport::saveScreenshot(*window, shot + "6-after");
         window->close();
     }
-    const QStringList seen = warnings.take();
-    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    warnings.expectNone();
     removeFixture();
 }
 

@@ -59,26 +59,15 @@ protected:
     }
     void TearDown() override {
         QmlTestSupport::useLanguage("en");
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+        warnings.expectNone();
     }
 
-    QQuickItem* find(const char* name) const { return findItem(window->contentItem(), name); }
-
-    // Loaded screens are visual children only, so the search follows items, not objects.
-    static QQuickItem* findItem(QQuickItem* item, const char* name) {
-        if (item->objectName() == QLatin1String(name))
-            return item;
-        for (QQuickItem* child : item->childItems())
-            if (QQuickItem* found = findItem(child, name))
-                return found;
-        return nullptr;
+    QQuickItem* find(const char* name) const {
+        return QmlTestSupport::findItem(window->contentItem(), QLatin1String(name));
     }
-
     void click(QQuickItem* item) {
         ASSERT_NE(item, nullptr);
-        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-        QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
+        QmlTestSupport::click(*window, *item);
     }
 
     // The window point in the middle of the first ring-`depth` arc of a folder.

@@ -1,10 +1,11 @@
-#include "App/Announcer.hpp"
 #include "App/Preferences.hpp"
+#include "DiskTreeChecks.hpp"
 #include "Modules/Lens/LensMarks.hpp"
 #include "Modules/Lens/LensRowsModel.hpp"
 #include "Modules/Lens/LensText.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 #include "Painel/ByteFormat.hpp"
+#include "Support/QmlTestSupport.hpp"
 #include "TempTree.hpp"
 
 #include <QAbstractItemModelTester>
@@ -21,21 +22,8 @@ using Node = DiskNode::Pointer;
 
 namespace {
 
-Node file(const std::string& path, std::int64_t size) {
-    return std::make_shared<const DiskNode>(URL::file(path), std::nullopt, size, false, 1, false,
-                                            std::vector<Node>{});
-}
-
-Node folder(const std::string& path, std::vector<Node> children) {
-    std::int64_t size = 0, count = 0;
-    for (const Node& child : children) {
-        size += child->size();
-        count += child->itemCount();
-    }
-    CleanerCore::orderChildren(children);
-    return std::make_shared<const DiskNode>(URL::file(path), std::nullopt, size, true, count, false,
-                                            std::move(children));
-}
+using DiskTreeChecks::folder;
+const auto file = DiskTreeChecks::leaf;
 
 URL url(const std::string& path) {
     return URL::file(path);
@@ -59,8 +47,7 @@ public:
 //    music (300): song 300
 //    small (100): .zephrane-small-items 100
 Node sampleTree() {
-    auto small = std::make_shared<const DiskNode>(url("/r/.zephrane-small-items"), "4 small items", 100,
-                                                  false, 4, true, std::vector<Node>{});
+    const Node small = DiskTreeChecks::aggregate("/r", 100, 4);
     return folder("/r", {folder("/r/docs", {file("/r/docs/big.pdf", 400),
                                             folder("/r/docs/notes", {file("/r/docs/notes/a.txt", 150),
                                                                      file("/r/docs/notes/b.txt", 50)})}),
@@ -74,21 +61,7 @@ std::vector<std::string> paths(const std::vector<Node>& nodes) {
     return out;
 }
 
-class AnnouncementLog {
-public:
-    AnnouncementLog() {
-        previous = Announcer::installSink([this](const QString& text) { said.append(text); });
-    }
-    ~AnnouncementLog() { Announcer::installSink(previous); }
-    QStringList said;
-
-private:
-    Announcer::Sink previous;
-};
-
-bool waitFor(QFuture<void> future) {
-    return QTest::qWaitFor([&] { return future.isFinished(); }, 20000);
-}
+using QmlTestSupport::finishes;
 
 } // namespace
 
@@ -128,7 +101,7 @@ TEST(SpaceLensMarks, AnEnclosingMarkWinsWhicheverComesFirst) {
 }
 
 TEST(SpaceLensNavigation, OpensFoldersGoesUpAndKeepsTheFolderLeftBehindLit) {
-    AnnouncementLog announced;
+    QmlTestSupport::AnnouncementLog announced;
     LensUnderTest lens;
     lens.adopt(sampleTree());
     lens.navigation()->goUp();
@@ -319,11 +292,11 @@ TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {
     EXPECT_EQ(lens.progress().steps[0].id, "tree");
     EXPECT_EQ(lens.progress().steps[0].state, ScanStep::State::scanning());
     lens.stop();
-    ASSERT_TRUE(waitFor(first));
+    ASSERT_TRUE(finishes(first));
     EXPECT_EQ(lens.phase(), ModulePhase::idle);
     EXPECT_FALSE(lens.hasTree());
 
-    ASSERT_TRUE(waitFor(lens.scan()));
+    ASSERT_TRUE(finishes(lens.scan()));
     ASSERT_EQ(lens.phase(), ModulePhase::ready);
     const Node scanned = lens.navigation()->root();
     ASSERT_TRUE(scanned);
@@ -339,13 +312,13 @@ TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {
     lens.toggleMark(URL::file(tree.path("three.bin").string()));
     QFuture<void> again = lens.scan();
     lens.stop();
-    ASSERT_TRUE(waitFor(again));
+    ASSERT_TRUE(finishes(again));
     EXPECT_EQ(lens.phase(), ModulePhase::ready);
     EXPECT_EQ(lens.navigation()->root(), scanned);
     EXPECT_EQ(lens.markedCount(), 1);
 
     // A new tree starts with no marks.
-    ASSERT_TRUE(waitFor(lens.scan()));
+    ASSERT_TRUE(finishes(lens.scan()));
     EXPECT_NE(lens.navigation()->root(), scanned);
     EXPECT_EQ(lens.markedCount(), 0);
 }

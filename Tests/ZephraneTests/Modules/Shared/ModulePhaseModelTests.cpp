@@ -1,6 +1,7 @@
 #include "Modules/Shared/FakeChannelModel.hpp"
 
 #include "App/Preferences.hpp"
+#include "Support/QmlTestSupport.hpp"
 
 #include "TempTree.hpp"
 
@@ -16,9 +17,7 @@ using CleanerCore::URL;
 
 namespace {
 
-bool finishes(const QFuture<void>& future) {
-    return QTest::qWaitFor([&] { return future.isFinished(); }, 5000);
-}
+using QmlTestSupport::finishes;
 
 std::unordered_set<URL> urlsOf(const std::vector<CleanerCore::CleanupItem>& items) {
     std::unordered_set<URL> urls;

@@ -1,4 +1,3 @@
-#include "App/Announcer.hpp"
 #include "Modules/Shared/FakeChannelModel.hpp"
 #include "App/Preferences.hpp"
 #include "Modules/Shared/PhaseAnnouncements.hpp"
@@ -72,15 +71,10 @@ private:
 
 class ModulePhaseScreens : public ::testing::Test {
 protected:
-    void SetUp() override {
-        previousSink = Announcer::installSink([this](const QString& text) { spoken.append(text); });
-    }
     void TearDown() override {
-        Announcer::installSink(previousSink);
         delete window;
         QmlTestSupport::useLanguage("en");
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+        warnings.expectNone();
     }
 
     // A new window over a new model.
@@ -105,17 +99,8 @@ protected:
         QmlTestSupport::settle();
     }
 
-    // Loaded panels are visual children, not always object children: walk the item tree.
-    static QQuickItem* findIn(QQuickItem* item, const QString& name) {
-        if (item->objectName() == name)
-            return item;
-        for (QQuickItem* child : item->childItems())
-            if (QQuickItem* found = findIn(child, name))
-                return found;
-        return nullptr;
-    }
     QQuickItem* find(const char* name) const {
-        return findIn(window->contentItem(), QString::fromLatin1(name));
+        return QmlTestSupport::findItem(window->contentItem(), QString::fromLatin1(name));
     }
     bool shows(const char* name) const {
         QQuickItem* item = find(name);
@@ -123,8 +108,7 @@ protected:
     }
     void shoot(const QString& phase, const QString& language, bool contrast) {
         QmlTestSupport::settle(80);
-        const QStringList seen = warnings.take();
-        EXPECT_TRUE(seen.isEmpty()) << phase.toStdString() << ": " << seen.join('\n').toStdString();
+        warnings.expectNone(phase + ": ");
         QmlTestSupport::saveScreenshot(
             *window, QStringLiteral("phase-%1-%2%3").arg(phase, language, contrast ? "-contrast" : ""));
     }
@@ -136,14 +120,12 @@ protected:
     std::unique_ptr<FakeChannelModel> owned;
     QQmlEngine engine;
     QQuickWindow* window = nullptr;
-    QStringList spoken;
-    Announcer::Sink previousSink;
+    QmlTestSupport::AnnouncementLog announced;
+    QStringList& spoken = announced.said;
     FakeChannelModel& model() { return *owned; }
 };
 
-bool finishes(const QFuture<void>& future) {
-    return QTest::qWaitFor([&] { return future.isFinished(); }, 5000);
-}
+using QmlTestSupport::finishes;
 
 } // namespace
 

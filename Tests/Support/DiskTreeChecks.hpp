@@ -4,9 +4,7 @@
 
 #include <fmt/format.h>
 
-#include <filesystem>
 #include <string>
-#include <sys/stat.h>
 
 namespace DiskTreeChecks {
 
@@ -71,11 +69,6 @@ inline DiskNode::Pointer aggregate(const std::string& folderPath, std::int64_t s
     return std::make_shared<const DiskNode>(CleanerCore::URL::file(folderPath + "/.zephrane-small-items"),
                                             std::to_string(count) + " small items", size, false, count, true,
                                             std::vector<DiskNode::Pointer>{});
-}
-
-inline std::int64_t blocksOf(const std::filesystem::path& path) {
-    struct stat info {};
-    return ::lstat(path.c_str(), &info) == 0 ? static_cast<std::int64_t>(info.st_blocks) * 512 : -1;
 }
 
 } // namespace DiskTreeChecks
