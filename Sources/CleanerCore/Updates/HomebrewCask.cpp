@@ -211,6 +211,13 @@ std::optional<std::vector<HomebrewCask>> HomebrewCaskIndex::casks() const {
     return std::nullopt;
 }
 
+std::optional<std::vector<HomebrewCask>> HomebrewCaskIndex::cached() const {
+    const auto bytes = readFile(cacheFolder + "/" + std::string(cacheFileName));
+    if (!bytes)
+        return std::nullopt;
+    return HomebrewCask::decode(*bytes);
+}
+
 std::set<std::string> installedCaskTokens(const std::vector<std::string>& caskroomFolders) {
     std::set<std::string> tokens;
     for (const std::string& folder : caskroomFolders) {

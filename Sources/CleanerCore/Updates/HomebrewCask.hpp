@@ -45,6 +45,8 @@ public:
                       URL indexURL = URL::parse(defaultIndexURL));
 
     std::optional<std::vector<HomebrewCask>> casks() const;
+    // The cache alone, however old: for working offline.
+    std::optional<std::vector<HomebrewCask>> cached() const;
 
 private:
     const UpdateFetching& fetcher;
