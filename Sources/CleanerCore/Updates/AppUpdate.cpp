@@ -21,6 +21,17 @@ template <> std::optional<AppUpdateSource> fromRaw<AppUpdateSource>(std::string_
     return std::nullopt;
 }
 
+AppUpdate AppUpdate::forApp(const AppBundleInfo& info, AppUpdateSource source, std::string newVersion) {
+    AppUpdate update;
+    update.appURL = info.url;
+    update.name = info.name;
+    update.bundleID = info.bundleID;
+    update.currentVersion = info.displayVersion().value_or("");
+    update.newVersion = std::move(newVersion);
+    update.source = source;
+    return update;
+}
+
 std::string AppUpdate::id() const { return appURL.path() + "#" + newVersion; }
 
 std::string AppUpdate::ignoreKey() const { return bundleID ? *bundleID : appURL.path(); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CleanerCore/Apps/AppBundleInfo.hpp"
 #include "CleanerCore/Files/URL.hpp"
 
 #include <array>
@@ -37,6 +38,9 @@ struct AppUpdate {
     std::optional<std::string> caskToken;
 
     bool operator==(const AppUpdate&) const = default;
+
+    // An update of `info` with its identity and installed version filled in.
+    static AppUpdate forApp(const AppBundleInfo& info, AppUpdateSource source, std::string newVersion);
 
     // The app's path, "#", the new version.
     std::string id() const;

@@ -5,10 +5,9 @@
 #include "CleanerCore/Updates/Appcast.hpp"
 #include "CleanerCore/Updates/ConcurrentCompactMap.hpp"
 #include "CleanerCore/Updates/ReleaseNotesText.hpp"
+#include "CleanerCore/Updates/StoreLookup.hpp"
 #include "CleanerCore/Updates/UpdateFetching.hpp"
 #include "CleanerCore/Updates/WebURL.hpp"
-
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <cstdlib>
@@ -18,8 +17,6 @@
 
 namespace CleanerCore {
 namespace {
-
-using nlohmann::json;
 
 std::string lowercased(std::string_view text) {
     std::string out(text);
@@ -44,31 +41,6 @@ std::string queryValue(std::string_view text) {
     return out;
 }
 
-// The installed text a store or cask version is measured against: the short version, else the
-// build, cut at "(" (nothing when the app declares neither).
-std::optional<std::string> installedComparable(const AppBundleInfo& info) {
-    if (info.shortVersion)
-        return AppVersion::cutAtParenthesis(*info.shortVersion);
-    if (info.buildVersion)
-        return AppVersion::cutAtParenthesis(*info.buildVersion);
-    return std::nullopt;
-}
-
-AppUpdate updateFor(const AppBundleInfo& info, AppUpdateSource source, std::string newVersion) {
-    AppUpdate update;
-    update.appURL = info.url;
-    update.name = info.name;
-    update.bundleID = info.bundleID;
-    update.currentVersion = info.displayVersion().value_or("");
-    update.newVersion = std::move(newVersion);
-    update.source = source;
-    return update;
-}
-
-const std::string* stringAt(const json& object, const char* key) {
-    const auto found = object.find(key);
-    return found != object.end() && found->is_string() ? &found->get_ref<const std::string&>() : nullptr;
-}
 
 } // namespace
 
@@ -149,7 +121,7 @@ std::optional<AppUpdate> AppUpdateFinder::sparkleUpdate(const AppBundleInfo& inf
         return std::nullopt;
     if (!AppVersion::isUpdate(item->shortVersion, item->version, info.shortVersion, info.buildVersion))
         return std::nullopt;
-    AppUpdate update = updateFor(info, AppUpdateSource::sparkle, *offered);
+    AppUpdate update = AppUpdate::forApp(info, AppUpdateSource::sparkle, *offered);
     update.newBuild = item->version;
     if (item->descriptionHTML)
         if (std::string notes = ReleaseNotesText::plainText(*item->descriptionHTML); !notes.empty())
@@ -187,42 +159,7 @@ std::optional<URL> AppUpdateFinder::lookupURL(std::string_view bundleID, std::st
 }
 
 std::optional<AppUpdate> AppUpdateFinder::appStoreUpdate(const AppBundleInfo& info, std::string_view lookup) {
-    if (!info.bundleID)
-        return std::nullopt;
-    const json document = json::parse(lookup, nullptr, false);
-    if (!document.is_object())
-        return std::nullopt;
-    const auto results = document.find("results");
-    if (results == document.end() || !results->is_array())
-        return std::nullopt;
-    const std::string wanted = lowercased(*info.bundleID);
-    const json* match = nullptr;
-    for (const json& result : *results) {
-        if (!result.is_object())
-            return std::nullopt;
-        const std::string* id = stringAt(result, "bundleId");
-        if (id == nullptr || lowercased(*id) != wanted)
-            continue;
-        if (const std::string* kind = stringAt(result, "kind"); kind != nullptr && *kind != "mac-software")
-            continue;
-        match = &result;
-        break;
-    }
-    if (match == nullptr)
-        return std::nullopt;
-    const std::string* version = stringAt(*match, "version");
-    const auto installed = installedComparable(info);
-    if (version == nullptr || !installed || !AppVersion::isNewer(AppVersion::cutAtParenthesis(*version), *installed))
-        return std::nullopt;
-
-    AppUpdate update = updateFor(info, AppUpdateSource::appStore, *version);
-    if (const std::string* notes = stringAt(*match, "releaseNotes"); notes != nullptr && !notes->empty())
-        update.notes = *notes; // plain text already: not put through the HTML cleaner
-    if (const std::string* page = stringAt(*match, "trackViewUrl"))
-        update.notesURL = WebURL::parse(*page);
-    if (const auto track = match->find("trackId"); track != match->end() && track->is_number_integer())
-        update.storeURL = URL::parse("macappstore://apps.apple.com/app/id" + std::to_string(track->get<std::int64_t>()));
-    return update;
+    return StoreLookup::update(info, lookup);
 }
 
 std::vector<AppUpdate> AppUpdateFinder::homebrewUpdates(const std::vector<AppBundleInfo>& apps) const {
@@ -261,10 +198,10 @@ std::vector<AppUpdate> AppUpdateFinder::homebrewUpdates(const std::vector<AppBun
         if (cask == nullptr)
             continue;
         const auto offered = cask->comparableVersion();
-        const auto installed = installedComparable(info);
+        const auto installed = StoreLookup::installedComparable(info);
         if (!offered || !installed || !AppVersion::isNewer(AppVersion::cutAtParenthesis(*offered), *installed))
             continue;
-        AppUpdate update = updateFor(info, AppUpdateSource::homebrew, *offered);
+        AppUpdate update = AppUpdate::forApp(info, AppUpdateSource::homebrew, *offered);
         update.notesURL = cask->homepage;
         update.downloadURL = cask->downloadURL;
         update.caskToken = cask->token;
