@@ -93,6 +93,51 @@ std::vector<AppUpdate> AppUpdateFinder::updates(const std::vector<AppBundleInfo>
     return all;
 }
 
+std::vector<AppUpdate> AppUpdateFinder::updates(const std::vector<InstalledApp>& apps, std::stop_token stop) const {
+    std::vector<AppBundleInfo> bundles;
+    std::vector<InstalledApp> flatpaks;
+    for (const InstalledApp& app : apps) {
+        if (isFlatpak(app.kind))
+            flatpaks.push_back(app);
+        else if (auto info = AppBundleInfo::fromApp(app))
+            bundles.push_back(std::move(*info));
+    }
+    auto fromFlatpak = std::async(std::launch::async, [&] {
+        return flatpaks.empty() || stop.stop_requested() ? std::vector<AppUpdate>{} : flatpakUpdates(flatpaks);
+    });
+    std::vector<AppUpdate> all = updates(bundles, stop);
+    for (AppUpdate& update : fromFlatpak.get())
+        all.push_back(std::move(update));
+    sortByName(all);
+    return all;
+}
+
+std::vector<AppUpdate> AppUpdateFinder::flatpakUpdates(const std::vector<InstalledApp>& apps) const {
+    std::map<std::string, Platform::FlatpakUpdate> byDeployFolder;
+    for (Platform::FlatpakUpdate& update : config.flatpakSource(config.offline))
+        byDeployFolder.emplace(update.deployPath, std::move(update));
+    std::vector<AppUpdate> updates;
+    for (const InstalledApp& app : apps) {
+        const auto found = byDeployFolder.find(app.url.path());
+        if (found == byDeployFolder.end())
+            continue;
+        const Platform::FlatpakUpdate& offered = found->second;
+        const auto shortCommit = [](const std::string& commit) { return commit.substr(0, 12); };
+        AppUpdate update;
+        update.appURL = app.url;
+        update.name = app.name;
+        update.bundleID = app.bundleID;
+        update.currentVersion = offered.installedVersion.value_or(app.version.value_or(shortCommit(offered.installedCommit)));
+        // A new commit with the same version (a rebuild) is still an update: its commit tells it apart.
+        update.newVersion = offered.offeredVersion && *offered.offeredVersion != update.currentVersion
+                                ? *offered.offeredVersion
+                                : shortCommit(offered.offeredCommit);
+        update.source = AppUpdateSource::flatpak;
+        updates.push_back(std::move(update));
+    }
+    return updates;
+}
+
 std::vector<AppUpdate> AppUpdateFinder::sparkleUpdates(const std::vector<AppBundleInfo>& apps, std::stop_token stop) const {
     if (config.offline)
         return {};

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "CleanerCore/Apps/AppBundleInfo.hpp"
+#include "CleanerCore/Apps/InstalledApp.hpp"
+#include "CleanerCore/Platform/FlatpakUpdates.hpp"
 #include "CleanerCore/Updates/AppUpdate.hpp"
 #include "CleanerCore/Updates/HomebrewCask.hpp"
 #include "CleanerCore/Updates/OperatingSystemVersion.hpp"
 
 #include <chrono>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <set>
 #include <stop_token>
@@ -36,6 +39,8 @@ public:
         bool offline = false;
         std::string caskIndexURL{HomebrewCaskIndex::defaultIndexURL};
         std::string storeLookupBase = "https://itunes.apple.com/lookup";
+        // What the Flatpak installations report (given `offline`); libflatpak unless a test says otherwise.
+        std::function<std::vector<Platform::FlatpakUpdate>(bool offline)> flatpakSource = Platform::flatpakUpdates;
     };
 
     struct Plan {
@@ -50,12 +55,15 @@ public:
     static std::string defaultCacheFolder();
 
     Plan plan(const std::vector<AppBundleInfo>& apps) const;
+    // Every installed app: Flatpaks are asked of their remotes alone, the rest go through `plan`.
+    std::vector<AppUpdate> updates(const std::vector<InstalledApp>& apps, std::stop_token stop = {}) const;
     // All sources, sorted by name (natural order, stable: equal names keep store, feed, cask order).
     std::vector<AppUpdate> updates(const std::vector<AppBundleInfo>& apps, std::stop_token stop = {}) const;
 
     std::vector<AppUpdate> appStoreUpdates(const std::vector<AppBundleInfo>& apps, std::stop_token stop = {}) const;
     std::vector<AppUpdate> sparkleUpdates(const std::vector<AppBundleInfo>& apps, std::stop_token stop = {}) const;
     std::vector<AppUpdate> homebrewUpdates(const std::vector<AppBundleInfo>& apps) const;
+    std::vector<AppUpdate> flatpakUpdates(const std::vector<InstalledApp>& apps) const;
 
     static std::optional<AppUpdate> sparkleUpdate(const AppBundleInfo& info, std::string_view appcast,
                                                   const OperatingSystemVersion& system,
