@@ -27,6 +27,9 @@ constexpr std::array<Replacement, 6> tagRules{{
     {"<[^>]+>", ""},
 }};
 
+// In the regex engine's steps, of the order of milliseconds each.
+constexpr int32_t matchTimeLimit = 2000;
+
 // Compiled once; each call clones a matcher of its own, so calls may run on any thread.
 const std::vector<std::unique_ptr<icu::RegexPattern>>& compiledRules() {
     static const auto rules = [] {
@@ -49,6 +52,10 @@ icu::UnicodeString replaceAll(const icu::RegexPattern& pattern, const icu::Unico
     const std::unique_ptr<icu::RegexMatcher> matcher(pattern.matcher(text, status));
     if (U_FAILURE(status))
         return text;
+    // Notes come from anyone: thousands of unclosed "<script" make the lazy match quadratic.
+    // Past the limit the rule is given up and the text goes on as it stands (the last rule still
+    // takes out every tag).
+    matcher->setTimeLimit(matchTimeLimit, status);
     icu::UnicodeString result = matcher->replaceAll(replacement, status);
     return U_FAILURE(status) ? text : result;
 }

@@ -31,3 +31,11 @@ TEST(ReleaseNotesText, DecodesKnownEntitiesOnceAndKeepsTheRest) {
     EXPECT_EQ(ReleaseNotesText::decodeEntities("&hellip;&rsquo;&ldquo;&bull;&nbsp;&#39;"), "\u2026\u2019\u201C\u2022 '");
     EXPECT_EQ(ReleaseNotesText::decodeEntities("&verylongname;"), "&verylongname;") << "more than ten characters";
 }
+
+TEST(ReleaseNotesText, GivesUpOnPathologicalMarkupInsteadOfHanging) {
+    std::string hostile;
+    for (int i = 0; i < 100'000; ++i)
+        hostile += "<script>x";
+    const std::string text = ReleaseNotesText::plainText(hostile);
+    EXPECT_EQ(text, std::string(100'000, 'x')) << "the tags still go; only the unclosed blocks stay as text";
+}
