@@ -226,3 +226,29 @@ TEST(AppUpdateFinder, KeepsOrderAndLimitsWorkInFlight) {
     EXPECT_THAT(concurrentCompactMap(inputs, 3, [](const int& v) { return std::optional<int>(v); }, stop.get_token()),
                 IsEmpty());
 }
+
+TEST(AppUpdate, DerivesSummaryKeysAndCommandsFromItsFields) {
+    AppUpdate update;
+    update.appURL = URL::file("/Applications/Editor.app");
+    update.newVersion = "2.0";
+    EXPECT_EQ(update.id(), "/Applications/Editor.app#2.0");
+    EXPECT_EQ(update.ignoreKey(), "/Applications/Editor.app");
+    update.bundleID = "org.editor";
+    EXPECT_EQ(update.ignoreKey(), "org.editor");
+    EXPECT_EQ(update.notesSummary(), std::nullopt);
+    update.notes = "\n \t\n\u2022\n \u2022 Faster saving \n\u2022 Fewer crashes";
+    EXPECT_EQ(update.notesSummary(), "\u2022 Faster saving");
+    update.notes = "\u2022\n\n";
+    EXPECT_EQ(update.notesSummary(), std::nullopt);
+    EXPECT_EQ(update.brewCommand(), std::nullopt);
+
+    for (const auto& [url, installable] : {std::pair{"https://e.org/Editor.DMG", true}, {"https://e.org/Editor.zip?x=1", true},
+                                           {"http://e.org/Editor.zip", false}, {"https://e.org/Editor.pkg", false}}) {
+        update.downloadURL = URL::parse(url);
+        EXPECT_EQ(update.canInstallDownload(), installable) << url;
+    }
+    update.source = AppUpdateSource::homebrew;
+    EXPECT_FALSE(update.canInstallDownload()) << "only feed downloads are installed here";
+    for (const AppUpdateSource source : allAppUpdateSources)
+        EXPECT_EQ(fromRaw<AppUpdateSource>(rawValue(source)), source);
+}

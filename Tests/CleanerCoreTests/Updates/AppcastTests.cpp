@@ -95,6 +95,11 @@ TEST(Appcast, PicksTheNewestItemOfTheDefaultChannelThatSuitsTheSystem) {
     EXPECT_TRUE(bounded.supports(linux6)) << "a maximum equal to the system is accepted";
     EXPECT_FALSE(bounded.supports({6, 1, 1}));
     EXPECT_EQ(Appcast::bestItem({AppcastItem{}}, linux6), std::nullopt) << "an item without a version";
+
+    EXPECT_EQ(OperatingSystemVersion::fromRelease("6.1.0-18-amd64"), (OperatingSystemVersion{6, 1, 0}));
+    EXPECT_EQ(OperatingSystemVersion::fromRelease("5.15"), (OperatingSystemVersion{5, 15, 0}));
+    EXPECT_EQ(OperatingSystemVersion::fromRelease("4.19.999rc"), (OperatingSystemVersion{4, 19, 999}));
+    EXPECT_EQ(OperatingSystemVersion::fromRelease("unknown"), (OperatingSystemVersion{}));
 }
 
 TEST(Appcast, ChoosesReleaseNotesByLanguage) {
