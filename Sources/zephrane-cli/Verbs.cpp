@@ -11,6 +11,7 @@ int runLeftovers(const std::vector<std::string>& words, const Streams& streams);
 int runLarge(const std::vector<std::string>& words, const Streams& streams);
 int runTrash(const std::vector<std::string>& words, const Streams& streams);
 int runMonitor(const std::vector<std::string>& words, const Streams& streams);
+int runUpdates(const std::vector<std::string>& words, const Streams& streams);
 
 // Each verb lives in a file of its own (<Name>Verb.cpp) and is listed here once.
 const std::vector<Verb>& verbs() {
@@ -35,6 +36,10 @@ const std::vector<Verb>& verbs() {
          runTrash},
         {"monitor", "monitor [--json]",
          "load, memory, disk, battery and network over half a second, and the largest memory users", runMonitor},
+        {"updates", "updates [--json] [--offline]",
+         "what update feeds, the store, Homebrew and Flatpak remotes offer for the installed applications; "
+         "--offline reads only caches and local data",
+         runUpdates},
     };
     return all;
 }

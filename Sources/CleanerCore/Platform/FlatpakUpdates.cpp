@@ -1,0 +1,137 @@
+#include "CleanerCore/Platform/FlatpakUpdates.hpp"
+
+#include "CleanerCore/Platform/AppStream.hpp"
+#include "CleanerCore/Updates/AppVersion.hpp"
+
+#include <flatpak/flatpak.h>
+
+#include <map>
+#include <memory>
+#include <set>
+
+namespace CleanerCore::Platform {
+namespace {
+
+template <typename T> struct GObjectDeleter {
+    void operator()(T* object) const { g_object_unref(object); }
+};
+template <typename T> using GObjectPointer = std::unique_ptr<T, GObjectDeleter<T>>;
+
+struct PointerArrayDeleter {
+    void operator()(GPtrArray* array) const { g_ptr_array_unref(array); }
+};
+using PointerArray = std::unique_ptr<GPtrArray, PointerArrayDeleter>;
+
+std::string text(const char* value) { return value != nullptr ? value : ""; }
+
+std::vector<GObjectPointer<::FlatpakInstallation>> openInstallations() {
+    std::vector<GObjectPointer<::FlatpakInstallation>> opened;
+    GError* error = nullptr;
+    if (::FlatpakInstallation* user = flatpak_installation_new_user(nullptr, &error))
+        opened.emplace_back(user);
+    g_clear_error(&error);
+    if (PointerArray system{flatpak_get_system_installations(nullptr, &error)})
+        for (guint i = 0; i < system->len; ++i)
+            opened.emplace_back(static_cast<::FlatpakInstallation*>(g_object_ref(g_ptr_array_index(system.get(), i))));
+    g_clear_error(&error);
+    return opened;
+}
+
+FlatpakInstallationPath where(::FlatpakInstallation* installation) {
+    FlatpakInstallationPath path;
+    const GObjectPointer<GFile> file(flatpak_installation_get_path(installation));
+    char* raw = file ? g_file_get_path(file.get()) : nullptr;
+    path.path = text(raw);
+    g_free(raw);
+    path.isUser = flatpak_installation_get_is_user(installation);
+    return path;
+}
+
+// The remote's AppStream collection as the installation keeps it after a refresh.
+std::optional<std::string> remoteVersion(const std::string& installation, const std::string& remote,
+                                         const std::string& arch, const std::string& id) {
+    const std::string folder = installation + "/appstream/" + remote + "/" + arch + "/active/";
+    for (const char* name : {"appstream.xml.gz", "appstream.xml"})
+        if (auto component = appStreamComponent(folder + name, id))
+            return component->version;
+    return std::nullopt;
+}
+
+std::optional<std::string> installedVersion(::FlatpakInstalledRef* ref, const std::string& deploy, const std::string& id) {
+    if (const char* version = flatpak_installed_ref_get_appdata_version(ref); version != nullptr && *version != '\0')
+        return std::string(version);
+    const std::string share = deploy + "/files/share/";
+    for (const std::string& path : {share + "app-info/xmls/" + id + ".xml.gz", share + "metainfo/" + id + ".metainfo.xml",
+                                    share + "appdata/" + id + ".appdata.xml"})
+        if (auto component = appStreamComponent(path, id))
+            return component->version;
+    return std::nullopt;
+}
+
+// The commit the remote offers for `ref`: asked of the remote, or from its cached summary offline.
+std::string offeredCommit(::FlatpakInstallation* installation, ::FlatpakInstalledRef* installed, bool offline) {
+    auto* ref = FLATPAK_REF(installed);
+    GError* error = nullptr;
+    const GObjectPointer<FlatpakRemoteRef> remote(flatpak_installation_fetch_remote_ref_sync_full(
+        installation, flatpak_installed_ref_get_origin(installed), flatpak_ref_get_kind(ref), flatpak_ref_get_name(ref),
+        flatpak_ref_get_arch(ref), flatpak_ref_get_branch(ref),
+        offline ? FLATPAK_QUERY_FLAGS_ONLY_CACHED : FLATPAK_QUERY_FLAGS_NONE, nullptr, &error));
+    g_clear_error(&error);
+    if (remote)
+        return text(flatpak_ref_get_commit(FLATPAK_REF(remote.get())));
+    return text(flatpak_installed_ref_get_latest_commit(installed));
+}
+
+} // namespace
+
+std::vector<FlatpakUpdate> flatpakUpdates(bool offline) {
+    std::vector<FlatpakUpdate> updates;
+    for (const auto& installation : openInstallations()) {
+        const FlatpakInstallationPath path = where(installation.get());
+        if (path.path.empty())
+            continue;
+        GError* error = nullptr;
+        // Online, libflatpak decides what has an update; offline, a cached remote commit that
+        // differs from the installed one is all there is to go on.
+        PointerArray refs{offline ? flatpak_installation_list_installed_refs_by_kind(installation.get(), FLATPAK_REF_KIND_APP,
+                                                                                     nullptr, &error)
+                                  : flatpak_installation_list_installed_refs_for_update(installation.get(), nullptr, &error)};
+        g_clear_error(&error);
+        if (!refs)
+            continue;
+        std::set<std::pair<std::string, std::string>> refreshed; // remote and arch
+        for (guint i = 0; i < refs->len; ++i) {
+            auto* installed = FLATPAK_INSTALLED_REF(g_ptr_array_index(refs.get(), i));
+            auto* ref = FLATPAK_REF(installed);
+            if (flatpak_ref_get_kind(ref) != FLATPAK_REF_KIND_APP)
+                continue;
+            FlatpakUpdate update;
+            update.id = text(flatpak_ref_get_name(ref));
+            update.branch = text(flatpak_ref_get_branch(ref));
+            update.origin = text(flatpak_installed_ref_get_origin(installed));
+            update.deployPath = text(flatpak_installed_ref_get_deploy_dir(installed));
+            update.installation = path;
+            update.installedCommit = text(flatpak_ref_get_commit(ref));
+            update.installedVersion = installedVersion(installed, update.deployPath, update.id);
+            update.offeredCommit = offeredCommit(installation.get(), installed, offline);
+            const bool newCommit = !update.offeredCommit.empty() && update.offeredCommit != update.installedCommit;
+            if (!offline && !newCommit)
+                continue;
+            const std::string arch = text(flatpak_ref_get_arch(ref));
+            if (!offline && refreshed.emplace(update.origin, arch).second) {
+                flatpak_installation_update_appstream_sync(installation.get(), update.origin.c_str(), arch.c_str(),
+                                                           nullptr, nullptr, &error);
+                g_clear_error(&error);
+            }
+            update.offeredVersion = remoteVersion(path.path, update.origin, arch, update.id);
+            // Offline, the remote's AppStream data from the last refresh also tells of a newer version.
+            const bool newerListed = update.offeredVersion && update.installedVersion &&
+                                     AppVersion::isNewer(*update.offeredVersion, *update.installedVersion);
+            if (newCommit || newerListed)
+                updates.push_back(std::move(update));
+        }
+    }
+    return updates;
+}
+
+} // namespace CleanerCore::Platform

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "CleanerCore/Platform/InstalledFlatpaks.hpp"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace CleanerCore::Platform {
+
+// An installed Flatpak app whose remote offers a newer commit.
+struct FlatpakUpdate {
+    std::string id;
+    std::string branch;
+    std::string origin;
+    std::string deployPath; // of the installed commit, as InstalledFlatpak has it
+    FlatpakInstallationPath installation;
+    std::optional<std::string> installedVersion; // AppStream version of what is installed
+    std::string installedCommit;
+    std::optional<std::string> offeredVersion; // from the remote's AppStream data
+    std::string offeredCommit;
+
+    bool operator==(const FlatpakUpdate&) const = default;
+};
+
+// The apps of every installation that have an update. Online, each installation asks its remotes
+// (libflatpak's own check) and refreshes their AppStream data; offline, only what the
+// installation already holds is read: a cached remote commit, or a newer version in the remote's
+// AppStream data from the last refresh. An unreachable remote means no update, silently.
+std::vector<FlatpakUpdate> flatpakUpdates(bool offline);
+
+} // namespace CleanerCore::Platform

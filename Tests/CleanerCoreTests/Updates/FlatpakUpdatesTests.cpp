@@ -1,0 +1,73 @@
+#include "CleanerCore/Apps/AppInventory.hpp"
+#include "CleanerCore/Platform/FlatpakUpdates.hpp"
+#include "CleanerCore/Updates/AppUpdateFinder.hpp"
+#include "CleanerCore/Updates/UpdateFetching.hpp"
+#include "FlatpakFixture.hpp"
+#include "TempTree.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace CleanerCore;
+using TestSupport::FlatpakFixture;
+
+namespace {
+
+const Platform::FlatpakUpdate* findUpdate(const std::vector<Platform::FlatpakUpdate>& updates, const std::string& id) {
+    for (const auto& update : updates)
+        if (update.id == id)
+            return &update;
+    return nullptr;
+}
+
+class NoNetwork final : public UpdateFetching {
+public:
+    std::string data(const URL&) const override { throw TransferError("offline"); }
+    URL download(const URL&, const URL&) const override { throw TransferError("offline"); }
+};
+
+} // namespace
+
+TEST(FlatpakUpdates, OffersTheRemotesNewerCommitWithItsAppStreamVersion) {
+    FlatpakFixture* fixture = FlatpakFixture::shared();
+    if (fixture == nullptr)
+        GTEST_SKIP() << FlatpakFixture::unavailable();
+    const std::string id = "org.zephrane.Test.Updatable";
+    const std::string current = "org.zephrane.Test.Current";
+    fixture->exportApp({id, "Updatable", "1.0"});
+    fixture->exportApp({current, "Current", "4.2"});
+    fixture->install(id);
+    fixture->install(current);
+    EXPECT_EQ(findUpdate(Platform::flatpakUpdates(true), id), nullptr) << "nothing newer is known yet";
+    fixture->exportApp({id, "Updatable", "2.0"});
+
+    const auto updates = Platform::flatpakUpdates(false);
+    const auto* update = findUpdate(updates, id);
+    ASSERT_NE(update, nullptr);
+    EXPECT_EQ(update->installedVersion, "1.0");
+    EXPECT_EQ(update->offeredVersion, "2.0") << "read from the remote's refreshed AppStream data";
+    EXPECT_NE(update->offeredCommit, update->installedCommit);
+    EXPECT_TRUE(update->installation.isUser);
+    EXPECT_EQ(findUpdate(updates, current), nullptr);
+    EXPECT_NE(findUpdate(Platform::flatpakUpdates(true), id), nullptr) << "once seen, known offline too";
+
+    // The finder asks the Flatpak source alone for Flatpak apps, and never the network for them.
+    TestSupport::TempTree home;
+    AppInventory::Sources sources;
+    sources.home = URL::file(home.root().string());
+    sources.flatpaks = true;
+    NoNetwork network;
+    AppUpdateFinder::Settings settings;
+    settings.cacheFolder = home.path("cache").string();
+    settings.caskroomFolders = {};
+    const auto found = AppUpdateFinder(network, settings).updates(AppInventory::installedApps({}, sources));
+    const auto mine = std::find_if(found.begin(), found.end(), [&](const AppUpdate& u) { return u.bundleID == id; });
+    ASSERT_NE(mine, found.end());
+    EXPECT_EQ(mine->source, AppUpdateSource::flatpak);
+    EXPECT_EQ(mine->currentVersion, "1.0");
+    EXPECT_EQ(mine->newVersion, "2.0");
+    EXPECT_EQ(mine->name, "Updatable");
+
+    fixture->update(id);
+    EXPECT_EQ(findUpdate(Platform::flatpakUpdates(false), id), nullptr) << "updated: nothing left to offer";
+}
