@@ -17,8 +17,8 @@ void allocatedFile(const std::filesystem::path& path, std::int64_t bytes,
 //   Downloads/disk.iso          150 MB, used ten days ago
 //   Downloads/backup.zip        120 MB, used 200 days ago
 //   Documents/report.pdf         60 MB, used yesterday (only at the 50 MB choice)
-//   Album.photoslibrary/{a,b}    2 x 40 MB, one package right in the home (an "other folders" find)
-//   loose.bin                    70 MB, right in the home (counts in no step)
+//   Album.photoslibrary/{a,b}    2 x 40 MB, one package right in the home
+//   loose.bin                    70 MB, right in the home (like the package, it counts in no step)
 // and what must not be found: Library/huge.mov (200 MB), .hidden.bin (200 MB), Movies/small.mp4.
 void buildLargeHome(const std::filesystem::path& home, std::chrono::system_clock::time_point now);
 

@@ -13,9 +13,9 @@ FocusScope {
     // The widths of the list's columns, shared by the headers and the rows.
     readonly property QtObject columns: QtObject {
         readonly property int check: 20
-        readonly property int kind: 96
-        readonly property int lastUsed: 150
-        readonly property int meter: 96
+        readonly property int kind: 128
+        readonly property int lastUsed: 140
+        readonly property int meter: 88
         readonly property int size: 76
         readonly property int reveal: 28
         readonly property int spacing: 14
@@ -197,6 +197,8 @@ FocusScope {
             large: root.model
             columns: root.columns
             focus: ListView.isCurrentItem
+            // A row clicked or reached by Tab becomes the one the arrows move on from.
+            onActiveFocusChanged: if (activeFocus) rows.currentIndex = index
         }
     }
 

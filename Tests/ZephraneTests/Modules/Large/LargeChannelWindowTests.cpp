@@ -58,10 +58,14 @@ QQuickItem* find(QQuickWindow* window, const QString& name) {
     return item;
 }
 
-void click(QQuickWindow* window, QQuickItem* item) {
+void press(QQuickWindow* window, QQuickItem* item) {
     ASSERT_NE(item, nullptr);
     const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
     QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
+}
+
+void click(QQuickWindow* window, QQuickItem* item) {
+    press(window, item);
     QmlTestSupport::settle();
 }
 
@@ -94,7 +98,7 @@ void runLargeChannel(const QString& language) {
         QmlTestSupport::settle(120);
         QmlTestSupport::saveScreenshot(*window, shot + "1-idle");
 
-        click(window, find(window, "scanKey"));
+        press(window, find(window, "scanKey"));
         EXPECT_EQ(large.phase(), ModulePhase::scanning);
         QmlTestSupport::saveScreenshot(*window, shot + "2-scanning");
         waitFor([&] { return large.phase() == ModulePhase::ready; });
