@@ -4,17 +4,21 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDesktopServices>
-#include <QFileInfo>
 #include <QUrl>
 
 namespace FileManager {
 
-void showItem(const QString& path) {
-    const QUrl folder = QUrl::fromLocalFile(QFileInfo(path).absolutePath());
+QUrl fileUrl(const QByteArray& path) {
+    return QUrl::fromEncoded("file://" + path.toPercentEncoding("/"), QUrl::StrictMode);
+}
+
+void showItem(const QByteArray& path) {
+    const qsizetype slash = path.lastIndexOf('/');
+    const QUrl folder = fileUrl(slash > 0 ? path.left(slash) : QByteArray("/"));
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
-    call << QStringList{QUrl::fromLocalFile(path).toString()} << QString();
+    call << QStringList{fileUrl(path).toString(QUrl::FullyEncoded)} << QString();
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
         QDesktopServices::openUrl(folder);

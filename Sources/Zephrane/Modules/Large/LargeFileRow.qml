@@ -10,7 +10,7 @@ FocusScope {
 
     required property LargeFilesModel large
     required property var columns
-    required property string path
+    required property int index
     required property string name
     required property string folder
     required property string kindTitle
@@ -27,12 +27,12 @@ FocusScope {
     Accessible.description: [root.folder, root.kindTitle, root.lastUsedText, root.sizeText].join(", ")
     Accessible.checkable: true
     Accessible.checked: root.selected
-    Accessible.onToggleAction: root.large.toggleSelected(root.path)
-    Accessible.onPressAction: root.large.toggleSelected(root.path)
+    Accessible.onToggleAction: root.large.toggleRow(root.index)
+    Accessible.onPressAction: root.large.toggleRow(root.index)
 
-    Keys.onSpacePressed: root.large.toggleSelected(root.path)
-    Keys.onReturnPressed: root.large.reveal(root.path)
-    Keys.onEnterPressed: root.large.reveal(root.path)
+    Keys.onSpacePressed: root.large.toggleRow(root.index)
+    Keys.onReturnPressed: root.large.revealRow(root.index)
+    Keys.onEnterPressed: root.large.revealRow(root.index)
 
     Rectangle {
         id: card
@@ -42,7 +42,7 @@ FocusScope {
 
         MouseArea {
             anchors.fill: parent
-            onClicked: { root.forceActiveFocus(); root.large.toggleSelected(root.path) }
+            onClicked: { root.forceActiveFocus(); root.large.toggleRow(root.index) }
         }
 
         Row {
@@ -134,9 +134,9 @@ FocusScope {
                 activeFocusOnTab: true
                 Accessible.role: Accessible.Button
                 Accessible.name: qsTrId("large.row.reveal").arg(root.name)
-                Accessible.onPressAction: root.large.reveal(root.path)
-                Keys.onSpacePressed: root.large.reveal(root.path)
-                Keys.onReturnPressed: root.large.reveal(root.path)
+                Accessible.onPressAction: root.large.revealRow(root.index)
+                Keys.onSpacePressed: root.large.revealRow(root.index)
+                Keys.onReturnPressed: root.large.revealRow(root.index)
                 Text {
                     anchors.centerIn: parent
                     text: "↗"
@@ -147,7 +147,7 @@ FocusScope {
                     id: revealArea
                     anchors.fill: parent
                     hoverEnabled: true
-                    onClicked: root.large.reveal(root.path)
+                    onClicked: root.large.revealRow(root.index)
                 }
                 PainelFocusRing {}
             }

@@ -268,13 +268,16 @@ void LargeFilesModel::toggleSelectAll() {
     selection()->setSelected(items, !selection()->stateOf(items).isOn);
 }
 
-void LargeFilesModel::toggleSelected(const QString& path) {
-    const URL url = URL::file(path.toStdString());
+void LargeFilesModel::toggleRow(int row) {
+    if (row < 0 || row >= visibleCount())
+        return;
+    const URL& url = shown[static_cast<std::size_t>(row)].url;
     selection()->setSelected(url, !selection()->contains(url));
 }
 
-void LargeFilesModel::reveal(const QString& path) const {
-    FileManager::showItem(path);
+void LargeFilesModel::revealRow(int row) const {
+    if (row >= 0 && row < visibleCount())
+        FileManager::showItem(QByteArray::fromStdString(shown[static_cast<std::size_t>(row)].url.path()));
 }
 
 QString LargeFilesModel::selectAllState() const {

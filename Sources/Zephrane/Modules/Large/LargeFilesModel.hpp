@@ -72,9 +72,10 @@ public:
     CleanupSelection::State selectionState() const;
     // All visible off when all are on; otherwise the visible ones join the selection.
     Q_INVOKABLE void toggleSelectAll();
-    Q_INVOKABLE void toggleSelected(const QString& path);
-    // Shows the file in the desktop's file manager.
-    Q_INVOKABLE void reveal(const QString& path) const;
+    // A visible row by its place in the list: names that are not UTF-8 survive no trip through text.
+    Q_INVOKABLE void toggleRow(int row);
+    // Shows the row's file in the desktop's file manager.
+    Q_INVOKABLE void revealRow(int row) const;
 
     // The moment filters count "last used" back from; tests fix it.
     void setClock(std::function<std::chrono::system_clock::time_point()> now);

@@ -191,7 +191,6 @@ FocusScope {
         Accessible.name: qsTrId("channel.large.title")
 
         delegate: LargeFileRow {
-            required property int index
             objectName: "largeRow-" + index
             width: rows.width
             large: root.model

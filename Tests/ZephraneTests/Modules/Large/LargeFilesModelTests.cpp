@@ -57,7 +57,13 @@ struct LargeModel : testing::Test {
             names.push_back(rows.data(rows.index(row), LargeFileList::NameRole).toString().toStdString());
         return names;
     }
-    QString pathOf(std::string_view relative) const { return QString::fromStdString(tree.path(relative).string()); }
+    // Ticks the shown row of that name, as a click on it does.
+    void toggle(std::string_view name) {
+        const auto names = shown();
+        const auto found = std::ranges::find(names, name);
+        ASSERT_NE(found, names.end()) << name;
+        model.toggleRow(static_cast<int>(found - names.begin()));
+    }
     bool rowSelected(int row) const { return rows.data(rows.index(row), LargeFileList::SelectedRole).toBool(); }
 };
 
@@ -136,7 +142,7 @@ TEST_F(LargeModel, FiltersKeepTheSelectionWhileSelectAllJudgesOnlyWhatIsShownAnd
     EXPECT_EQ(model.selection()->count(), 5) << "select-all over no file changes nothing";
 
     model.setMinimumSize(100 * MB);
-    model.toggleSelected(pathOf("Movies/holiday.mp4"));
+    toggle("holiday.mp4");
     EXPECT_TRUE(rowSelected(0));
     finish(model.scan());
     EXPECT_EQ(model.selection()->count(), 0);
@@ -146,7 +152,7 @@ TEST_F(LargeModel, FiltersKeepTheSelectionWhileSelectAllJudgesOnlyWhatIsShownAnd
 
 TEST_F(LargeModel, AgeCountsBackFromTheClockAndTheOrderFollowsTheChosenKey) {
     finish(model.scan());
-    model.toggleSelected(pathOf("Downloads/disk.iso"));
+    toggle("disk.iso");
 
     model.setAgeRaw("oneYear");
     EXPECT_THAT(shown(), ElementsAre("holiday.mp4"));
@@ -182,8 +188,8 @@ TEST(LargeModelEmpty, AHomeWithNothingLargeShowsTheEmptyScreenNotTheFilteredOne)
 TEST_F(LargeModel, RemovalTakesTheSelectionToTheTrashAndWhatCouldNotGoStaysListedAndSelected) {
     finish(model.scan());
     const std::int64_t holiday = allocated(tree.path("Movies/holiday.mp4"));
-    model.toggleSelected(pathOf("Movies/holiday.mp4"));
-    model.toggleSelected(pathOf("Downloads/backup.zip"));
+    toggle("holiday.mp4");
+    toggle("backup.zip");
 
     TestSupport::FaultySystemCalls calls;
     calls.renameFault = [](const char* name) { return std::string_view(name) == "backup.zip" ? EACCES : 0; };
@@ -212,4 +218,25 @@ TEST_F(LargeModel, RemovalTakesTheSelectionToTheTrashAndWhatCouldNotGoStaysListe
     EXPECT_EQ(model.selection()->count(), 1);
     EXPECT_TRUE(rowSelected(1));
     EXPECT_EQ(model.files().size(), 5u);
+}
+
+TEST(LargeModelNames, AFileWhoseNameIsNotUtf8IsSelectedAndRemovedByItsOwnBytes) {
+    TestSupport::TempTree tree;
+    const fs::path odd = tree.path("Downloads/caf\xe9.bin");
+    TestSupport::allocatedFile(odd, 110 * MB, std::chrono::system_clock::now());
+    Preferences preferences;
+    LargeFilesModel model(preferences);
+    model.setHome(URL::file(tree.root().string()));
+    finish(model.scan());
+    ASSERT_EQ(model.visibleCount(), 1);
+    model.toggleRow(0);
+    EXPECT_TRUE(model.selection()->contains(URL::file(odd.string())));
+    model.toggleRow(7); // no such row
+    EXPECT_EQ(model.selection()->count(), 1);
+
+    finish(model.clean(CleanerCore::RemovalMode::permanent));
+    ASSERT_TRUE(model.outcome());
+    EXPECT_TRUE(model.outcome()->failures.empty());
+    EXPECT_FALSE(fs::exists(odd));
+    EXPECT_EQ(model.visibleCount(), 0);
 }
