@@ -55,7 +55,7 @@ LargeFilesModel::LargeFilesModel(Preferences& preferences, QObject* parent)
       rows(new LargeFileList(*this, this)) {
     connect(selection(), &CleanupSelection::changed, this, [this] {
         rows->refreshSelection();
-        emit selectAllChanged();
+        refreshSelectAll();
     });
 }
 
@@ -118,12 +118,17 @@ ScanPlan LargeFilesModel::scanPlan() {
     plan.units.push_back(std::move(unit));
     plan.adopt = [this, result] {
         found = std::move(*result);
+        regroup();
         refreshVisible();
     };
     return plan;
 }
 
 std::vector<CleanupCategory> LargeFilesModel::categories() const {
+    return grouped;
+}
+
+void LargeFilesModel::regroup() {
     // One category per kind, so the summary and the outcome have a line per kind. Nothing starts
     // selected: every file here is the user's own to judge.
     std::vector<CleanupCategory> result;
@@ -138,11 +143,12 @@ std::vector<CleanupCategory> LargeFilesModel::categories() const {
         if (!category.items.empty())
             result.push_back(std::move(category));
     }
-    return result;
+    grouped = std::move(result);
 }
 
 void LargeFilesModel::dropRemoved(const std::unordered_set<URL>& removed) {
     std::erase_if(found, [&](const LargeFile& file) { return removed.contains(file.url); });
+    regroup();
     refreshVisible();
 }
 
@@ -154,6 +160,15 @@ void LargeFilesModel::refreshVisible() {
     shown = CleanerCore::sorted(sortChoice, filter().apply(found, clock(), *calendar));
     rows->reload();
     emit visibleChanged();
+    refreshSelectAll();
+}
+
+void LargeFilesModel::refreshSelectAll() {
+    const auto on = std::ranges::count_if(shown, [this](const LargeFile& file) {
+        return selection()->contains(file.url);
+    });
+    const auto all = static_cast<std::ptrdiff_t>(shown.size());
+    shownState = {on > 0 && on == all, on > 0 && on < all};
     emit selectAllChanged();
 }
 
@@ -252,20 +267,12 @@ QVariantList LargeFilesModel::kindOptions() const {
     return options;
 }
 
-CleanupSelection::State LargeFilesModel::selectionState() const {
-    std::vector<CleanerCore::CleanupItem> items;
-    items.reserve(shown.size());
-    for (const LargeFile& file : shown)
-        items.push_back(file.asCleanupItem());
-    return selection()->stateOf(items);
-}
-
 void LargeFilesModel::toggleSelectAll() {
     std::vector<CleanerCore::CleanupItem> items;
     items.reserve(shown.size());
     for (const LargeFile& file : shown)
         items.push_back(file.asCleanupItem());
-    selection()->setSelected(items, !selection()->stateOf(items).isOn);
+    selection()->setSelected(items, !shownState.isOn);
 }
 
 void LargeFilesModel::toggleRow(int row) {

@@ -69,7 +69,7 @@ public:
     void setSort(CleanerCore::LargeFileSort sort);
 
     // The select-all box over the visible files only: on when all are selected, mixed when some.
-    CleanupSelection::State selectionState() const;
+    CleanupSelection::State selectionState() const { return shownState; }
     // All visible off when all are on; otherwise the visible ones join the selection.
     Q_INVOKABLE void toggleSelectAll();
     // A visible row by its place in the list: names that are not UTF-8 survive no trip through text.
@@ -121,10 +121,16 @@ protected:
 
 private:
     void refreshVisible();
+    void refreshSelectAll();
+    void regroup();
 
     CleanerCore::URL homeFolder;
     std::vector<LargeFile> found;
     std::vector<LargeFile> shown;
+    // Kept, not recomputed per question: the summary and the select-all box are asked often, and
+    // a list of ten thousand files must not make each question cost a pass over all of them.
+    std::vector<CleanupCategory> grouped;
+    CleanupSelection::State shownState;
     std::int64_t minimum = 100000000;
     CleanerCore::LargeFileAge ageChoice = CleanerCore::LargeFileAge::any;
     std::optional<CleanerCore::FileKind> kindChoice;
