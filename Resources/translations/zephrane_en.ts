@@ -675,5 +675,201 @@
         <source>Space marks, Return opens</source>
         <translation>Space marks, Return opens</translation>
     </message>
+    <message id="large.idle.message">
+        <source>Find the biggest files in your home folder: videos, disk images and archives you may have forgotten.</source>
+        <translation>Find the biggest files in your home folder: videos, disk images and archives you may have forgotten.</translation>
+    </message>
+    <message id="large.empty.message">
+        <source>No file of 50 MB or more in your home folder.</source>
+        <translation>No file of 50 MB or more in your home folder.</translation>
+    </message>
+    <message id="large.confirm.note">
+        <source>These are your own files, not caches: check that none of them is still needed.</source>
+        <translation>These are your own files, not caches: check that none of them is still needed.</translation>
+    </message>
+    <message id="large.scan.otherFolders">
+        <source>Other folders</source>
+        <translation>Other folders</translation>
+    </message>
+    <message id="large.found">
+        <source>Found</source>
+        <translation>Found</translation>
+    </message>
+    <message id="large.found.detail">
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message id="large.fileCount.one">
+        <source>%1 file</source>
+        <translation>%1 file</translation>
+    </message>
+    <message id="large.fileCount.other">
+        <source>%1 files</source>
+        <translation>%1 files</translation>
+    </message>
+    <message id="large.files">
+        <source>Showing %1</source>
+        <translation>Showing %1</translation>
+    </message>
+    <message id="large.filters">
+        <source>Filters</source>
+        <translation>Filters</translation>
+    </message>
+    <message id="large.filter.size">
+        <source>At least</source>
+        <translation>At least</translation>
+    </message>
+    <message id="large.filter.age">
+        <source>Last used</source>
+        <translation>Last used</translation>
+    </message>
+    <message id="large.filter.kind">
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message id="large.age.any">
+        <source>Any time</source>
+        <translation>Any time</translation>
+    </message>
+    <message id="large.age.threeMonths">
+        <source>3+ months</source>
+        <translation>3+ months</translation>
+    </message>
+    <message id="large.age.sixMonths">
+        <source>6+ months</source>
+        <translation>6+ months</translation>
+    </message>
+    <message id="large.age.oneYear">
+        <source>1+ year</source>
+        <translation>1+ year</translation>
+    </message>
+    <message id="large.age.threeMonths.spoken">
+        <source>more than three months ago</source>
+        <translation>more than three months ago</translation>
+    </message>
+    <message id="large.age.sixMonths.spoken">
+        <source>more than six months ago</source>
+        <translation>more than six months ago</translation>
+    </message>
+    <message id="large.age.oneYear.spoken">
+        <source>more than a year ago</source>
+        <translation>more than a year ago</translation>
+    </message>
+    <message id="large.kind.all">
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+    <message id="large.kind.all.spoken">
+        <source>all kinds</source>
+        <translation>all kinds</translation>
+    </message>
+    <message id="large.kind.video">
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message id="large.kind.audio">
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message id="large.kind.image">
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message id="large.kind.archive">
+        <source>Archive</source>
+        <translation>Archive</translation>
+    </message>
+    <message id="large.kind.diskImage">
+        <source>Disk image</source>
+        <translation>Disk image</translation>
+    </message>
+    <message id="large.kind.document">
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message id="large.kind.other">
+        <source>Other</source>
+        <translation>Other</translation>
+    </message>
+    <message id="large.column.file">
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message id="large.column.kind">
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message id="large.column.lastUsed">
+        <source>Last used</source>
+        <translation>Last used</translation>
+    </message>
+    <message id="large.column.weight">
+        <source>Weight</source>
+        <translation>Weight</translation>
+    </message>
+    <message id="large.column.size">
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message id="large.sort">
+        <source>Sort by %1</source>
+        <translation>Sort by %1</translation>
+    </message>
+    <message id="large.selectAll">
+        <source>Select all shown</source>
+        <translation>Select all shown</translation>
+    </message>
+    <message id="large.selectAll.on">
+        <source>all selected</source>
+        <translation>all selected</translation>
+    </message>
+    <message id="large.selectAll.off">
+        <source>none selected</source>
+        <translation>none selected</translation>
+    </message>
+    <message id="large.selectAll.mixed">
+        <source>some selected</source>
+        <translation>some selected</translation>
+    </message>
+    <message id="large.row.lastUsed">
+        <source>used %1</source>
+        <translation>used %1</translation>
+    </message>
+    <message id="large.row.noDate">
+        <source>no date of use</source>
+        <translation>no date of use</translation>
+    </message>
+    <message id="large.row.reveal">
+        <source>Show %1 in the file manager</source>
+        <translation>Show %1 in the file manager</translation>
+    </message>
+    <message id="large.filtered.empty">
+        <source>No file passes these filters</source>
+        <translation>No file passes these filters</translation>
+    </message>
+    <message id="large.filtered.empty.hint">
+        <source>Choose a smaller size, an earlier date or another kind.</source>
+        <translation>Choose a smaller size, an earlier date or another kind.</translation>
+    </message>
+    <message id="large.selected">
+        <source>%1 selected</source>
+        <translation>%1 selected</translation>
+    </message>
+    <message id="large.selected.detail">
+        <source>%1 in the selection</source>
+        <translation>%1 in the selection</translation>
+    </message>
+    <message id="large.destination">
+        <source>Destination</source>
+        <translation>Destination</translation>
+    </message>
+    <message id="large.remove">
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message id="large.remove.value">
+        <source>Remove %1</source>
+        <translation>Remove %1</translation>
+    </message>
 </context>
 </TS>

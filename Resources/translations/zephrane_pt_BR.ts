@@ -675,5 +675,201 @@
         <source>Space marks, Return opens</source>
         <translation>Espaço marca, Enter abre</translation>
     </message>
+    <message id="large.idle.message">
+        <source>Find the biggest files in your home folder: videos, disk images and archives you may have forgotten.</source>
+        <translation>Encontre os maiores arquivos da sua pasta pessoal: vídeos, imagens de disco e arquivos compactados que você talvez tenha esquecido.</translation>
+    </message>
+    <message id="large.empty.message">
+        <source>No file of 50 MB or more in your home folder.</source>
+        <translation>Nenhum arquivo de 50 MB ou mais na sua pasta pessoal.</translation>
+    </message>
+    <message id="large.confirm.note">
+        <source>These are your own files, not caches: check that none of them is still needed.</source>
+        <translation>Estes são arquivos seus, não caches: confira se nenhum deles ainda é necessário.</translation>
+    </message>
+    <message id="large.scan.otherFolders">
+        <source>Other folders</source>
+        <translation>Outras pastas</translation>
+    </message>
+    <message id="large.found">
+        <source>Found</source>
+        <translation>Encontrado</translation>
+    </message>
+    <message id="large.found.detail">
+        <source>%1 in %2</source>
+        <translation>%1 em %2</translation>
+    </message>
+    <message id="large.fileCount.one">
+        <source>%1 file</source>
+        <translation>%1 arquivo</translation>
+    </message>
+    <message id="large.fileCount.other">
+        <source>%1 files</source>
+        <translation>%1 arquivos</translation>
+    </message>
+    <message id="large.files">
+        <source>Showing %1</source>
+        <translation>Mostrando %1</translation>
+    </message>
+    <message id="large.filters">
+        <source>Filters</source>
+        <translation>Filtros</translation>
+    </message>
+    <message id="large.filter.size">
+        <source>At least</source>
+        <translation>No mínimo</translation>
+    </message>
+    <message id="large.filter.age">
+        <source>Last used</source>
+        <translation>Último uso</translation>
+    </message>
+    <message id="large.filter.kind">
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="large.age.any">
+        <source>Any time</source>
+        <translation>Qualquer data</translation>
+    </message>
+    <message id="large.age.threeMonths">
+        <source>3+ months</source>
+        <translation>3+ meses</translation>
+    </message>
+    <message id="large.age.sixMonths">
+        <source>6+ months</source>
+        <translation>6+ meses</translation>
+    </message>
+    <message id="large.age.oneYear">
+        <source>1+ year</source>
+        <translation>1+ ano</translation>
+    </message>
+    <message id="large.age.threeMonths.spoken">
+        <source>more than three months ago</source>
+        <translation>há mais de três meses</translation>
+    </message>
+    <message id="large.age.sixMonths.spoken">
+        <source>more than six months ago</source>
+        <translation>há mais de seis meses</translation>
+    </message>
+    <message id="large.age.oneYear.spoken">
+        <source>more than a year ago</source>
+        <translation>há mais de um ano</translation>
+    </message>
+    <message id="large.kind.all">
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message id="large.kind.all.spoken">
+        <source>all kinds</source>
+        <translation>todos os tipos</translation>
+    </message>
+    <message id="large.kind.video">
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message id="large.kind.audio">
+        <source>Audio</source>
+        <translation>Áudio</translation>
+    </message>
+    <message id="large.kind.image">
+        <source>Image</source>
+        <translation>Imagem</translation>
+    </message>
+    <message id="large.kind.archive">
+        <source>Archive</source>
+        <translation>Compactado</translation>
+    </message>
+    <message id="large.kind.diskImage">
+        <source>Disk image</source>
+        <translation>Imagem de disco</translation>
+    </message>
+    <message id="large.kind.document">
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message id="large.kind.other">
+        <source>Other</source>
+        <translation>Outros</translation>
+    </message>
+    <message id="large.column.file">
+        <source>File</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message id="large.column.kind">
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message id="large.column.lastUsed">
+        <source>Last used</source>
+        <translation>Último uso</translation>
+    </message>
+    <message id="large.column.weight">
+        <source>Weight</source>
+        <translation>Peso</translation>
+    </message>
+    <message id="large.column.size">
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message id="large.sort">
+        <source>Sort by %1</source>
+        <translation>Ordenar por %1</translation>
+    </message>
+    <message id="large.selectAll">
+        <source>Select all shown</source>
+        <translation>Selecionar todos os exibidos</translation>
+    </message>
+    <message id="large.selectAll.on">
+        <source>all selected</source>
+        <translation>todos selecionados</translation>
+    </message>
+    <message id="large.selectAll.off">
+        <source>none selected</source>
+        <translation>nenhum selecionado</translation>
+    </message>
+    <message id="large.selectAll.mixed">
+        <source>some selected</source>
+        <translation>alguns selecionados</translation>
+    </message>
+    <message id="large.row.lastUsed">
+        <source>used %1</source>
+        <translation>usado %1</translation>
+    </message>
+    <message id="large.row.noDate">
+        <source>no date of use</source>
+        <translation>sem data de uso</translation>
+    </message>
+    <message id="large.row.reveal">
+        <source>Show %1 in the file manager</source>
+        <translation>Mostrar %1 no gerenciador de arquivos</translation>
+    </message>
+    <message id="large.filtered.empty">
+        <source>No file passes these filters</source>
+        <translation>Nenhum arquivo passa por estes filtros</translation>
+    </message>
+    <message id="large.filtered.empty.hint">
+        <source>Choose a smaller size, an earlier date or another kind.</source>
+        <translation>Escolha um tamanho menor, uma data mais antiga ou outro tipo.</translation>
+    </message>
+    <message id="large.selected">
+        <source>%1 selected</source>
+        <translation>%1 selecionados</translation>
+    </message>
+    <message id="large.selected.detail">
+        <source>%1 in the selection</source>
+        <translation>%1 na seleção</translation>
+    </message>
+    <message id="large.destination">
+        <source>Destination</source>
+        <translation>Destino</translation>
+    </message>
+    <message id="large.remove">
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message id="large.remove.value">
+        <source>Remove %1</source>
+        <translation>Remover %1</translation>
+    </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
 #include "App/ChannelList.hpp"
 #include "App/Preferences.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
+#include "Modules/Large/LargeFilesModel.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 
 #include <QDateTime>
@@ -24,6 +25,7 @@ class AppModel : public QObject {
     Q_PROPERTY(Preferences* preferences READ preferences CONSTANT)
     Q_PROPERTY(SystemJunkModel* junk READ junk CONSTANT)
     Q_PROPERTY(SpaceLensModel* spaceLens READ spaceLens CONSTANT)
+    Q_PROPERTY(LargeFilesModel* large READ large CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
@@ -45,6 +47,7 @@ public:
     Preferences* preferences() const { return settings; }
     SystemJunkModel* junk() const { return junkModel; }
     SpaceLensModel* spaceLens() const { return lens; }
+    LargeFilesModel* large() const { return largeModel; }
 
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
@@ -60,6 +63,7 @@ private:
     // The channels' models, in the order they are made.
     SystemJunkModel* junkModel;
     SpaceLensModel* lens;
+    LargeFilesModel* largeModel;
     ChannelList* channelList;
 
     Channel currentChannel = Channel::home;

@@ -1,0 +1,193 @@
+#include "App/AppModel.hpp"
+#include "App/MainWindow.hpp"
+#include "LargeHome.hpp"
+#include "Modules/Large/LargeFilesModel.hpp"
+#include "Support/QmlTestSupport.hpp"
+
+#include <QDir>
+#include <QProcess>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* childLanguage = "ZEPHRANE_LARGE_WINDOW_LANGUAGE";
+
+// The test program's home, which main() made temporary; the fixture is built right in it.
+fs::path testHome() {
+    const fs::path home = QDir::homePath().toStdString();
+    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
+        std::abort(); // never anywhere near a real home
+    return home;
+}
+
+fs::path trashFolder() {
+    return fs::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
+}
+
+void removeFixture() {
+    const fs::path home = testHome();
+    for (const char* top : {"Movies", "Downloads", "Documents", "Library", "Album.photoslibrary", "loose.bin",
+                            ".hidden.bin"})
+        fs::remove_all(home / top);
+    fs::remove_all(trashFolder());
+}
+
+QQuickItem* findVisible(QQuickItem* root, const QString& name) {
+    for (QQuickItem* child : root->childItems()) {
+        if (child->objectName() == name && child->isVisible())
+            return child;
+        if (QQuickItem* found = findVisible(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+QQuickItem* find(QQuickWindow* window, const QString& name) {
+    QQuickItem* item = findVisible(window->contentItem(), name);
+    EXPECT_NE(item, nullptr) << name.toStdString();
+    return item;
+}
+
+void press(QQuickWindow* window, QQuickItem* item) {
+    ASSERT_NE(item, nullptr);
+    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
+}
+
+void click(QQuickWindow* window, QQuickItem* item) {
+    press(window, item);
+    QmlTestSupport::settle();
+}
+
+void waitFor(const std::function<bool()>& condition) {
+    ASSERT_TRUE(QTest::qWaitFor(condition, 20000));
+    QmlTestSupport::settle(120);
+}
+
+// The channel's whole life in the real window, photographed at each screen: idle, scanning,
+// results, filtered, filtered to nothing, selected, confirmation, success; the removed files end
+// up in the freedesktop trash.
+void runLargeChannel(const QString& language) {
+    removeFixture();
+    TestSupport::buildLargeHome(testHome(), std::chrono::system_clock::now());
+    QmlTestSupport::WarningCollector warnings;
+    {
+        AppModel model;
+        LargeFilesModel& large = *model.large();
+        QQmlApplicationEngine engine;
+        QQuickWindow* window = MainWindow::load(engine, model);
+        ASSERT_NE(window, nullptr);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+        const QString shot = QStringLiteral("large-%1-").arg(language);
+
+        large.scanOnFirstVisit();
+        large.stop();
+        waitFor([&] { return large.phase() == ModulePhase::idle; });
+        model.open(Channel::large);
+        QmlTestSupport::settle(120);
+        QmlTestSupport::saveScreenshot(*window, shot + "1-idle");
+
+        press(window, find(window, "scanKey"));
+        EXPECT_EQ(large.phase(), ModulePhase::scanning);
+        QmlTestSupport::saveScreenshot(*window, shot + "2-scanning");
+        waitFor([&] { return large.phase() == ModulePhase::ready; });
+        ASSERT_EQ(large.visibleCount(), 3);
+        QmlTestSupport::saveScreenshot(*window, shot + "3-results");
+
+        click(window, find(window, "filter-size-50000000"));
+        EXPECT_EQ(large.visibleCount(), 6);
+        click(window, find(window, "filter-kind-video"));
+        EXPECT_EQ(large.visibleCount(), 1);
+        QmlTestSupport::saveScreenshot(*window, shot + "4-filtered");
+        click(window, find(window, "filter-size-1000000000"));
+        EXPECT_TRUE(large.filteredEmpty());
+        EXPECT_NE(find(window, "filteredEmpty"), nullptr);
+        QmlTestSupport::saveScreenshot(*window, shot + "5-filtered-empty");
+        click(window, find(window, "filter-kind-all"));
+        click(window, find(window, "filter-size-100000000"));
+        ASSERT_EQ(large.visibleCount(), 3);
+
+        // Everything shown, then the smallest off again from the keyboard, reached with the arrows.
+        click(window, find(window, "selectAll"));
+        EXPECT_EQ(large.selection()->count(), 3);
+        QQuickItem* first = find(window, "largeRow-0");
+        ASSERT_NE(first, nullptr);
+        first->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_Down);
+        QTest::keyClick(window, Qt::Key_Down);
+        QmlTestSupport::settle();
+        QQuickItem* last = find(window, "largeRow-2");
+        ASSERT_NE(last, nullptr);
+        EXPECT_TRUE(last->hasActiveFocus()) << "the arrows move the focus from row to row";
+        QTest::keyClick(window, Qt::Key_Space);
+        QmlTestSupport::settle(120);
+        EXPECT_EQ(large.selection()->count(), 2);
+        EXPECT_EQ(large.selectAllState(), "mixed");
+        QmlTestSupport::saveScreenshot(*window, shot + "6-selected");
+
+        click(window, find(window, "cleanKey"));
+        QmlTestSupport::settle(120);
+        EXPECT_EQ(large.painelPhase(), PainelPhase::confirm);
+        QmlTestSupport::saveScreenshot(*window, shot + "7-confirm");
+
+        click(window, find(window, "confirmKey"));
+        waitFor([&] { return large.phase() == ModulePhase::done; });
+        QmlTestSupport::saveScreenshot(*window, shot + "8-success");
+        ASSERT_TRUE(large.outcome());
+        EXPECT_TRUE(large.outcome()->failures.empty());
+        const fs::path home = testHome(), trash = trashFolder();
+        EXPECT_TRUE(fs::exists(trash / "files/holiday.mp4"));
+        EXPECT_TRUE(fs::exists(trash / "files/disk.iso"));
+        std::ifstream info(trash / "info/disk.iso.trashinfo");
+        const std::string infoText((std::istreambuf_iterator<char>(info)), {});
+        EXPECT_NE(infoText.find("Path=" + (home / "Downloads/disk.iso").string()), std::string::npos);
+        EXPECT_TRUE(fs::exists(home / "Downloads/backup.zip"));
+
+        click(window, find(window, "doneKey"));
+        QmlTestSupport::settle(120);
+        EXPECT_EQ(large.painelPhase(), PainelPhase::results);
+        EXPECT_EQ(large.visibleCount(), 1);
+        QmlTestSupport::saveScreenshot(*window, shot + "9-after");
+        window->close();
+    }
+    const QStringList seen = warnings.take();
+    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    removeFixture();
+}
+
+} // namespace
+
+TEST(LargeChannelWindow, ScanFilterSelectRemoveToTrashAndReport) {
+    QmlTestSupport::useLanguage("en");
+    runLargeChannel("en");
+}
+
+// The engine's texts keep the language of their first use, so Portuguese gets a process of its own.
+TEST(LargeChannelWindow, PortugueseInAProcessOfItsOwn) {
+    if (qEnvironmentVariableIsSet(childLanguage)) {
+        QmlTestSupport::useLanguage("pt-BR");
+        runLargeChannel("pt-BR");
+        QmlTestSupport::useLanguage("en");
+        return;
+    }
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(childLanguage, "pt-BR");
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::MergedChannels);
+    child.start(QCoreApplication::applicationFilePath(),
+                {"--gtest_filter=LargeChannelWindow.PortugueseInAProcessOfItsOwn"});
+    ASSERT_TRUE(child.waitForFinished(120000));
+    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+}
