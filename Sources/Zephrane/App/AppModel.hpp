@@ -4,7 +4,9 @@
 #include "App/ChannelInfo.hpp"
 #include "App/ChannelList.hpp"
 #include "App/Preferences.hpp"
+#include "Modules/Apps/UninstallerModel.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
+#include "Modules/Leftovers/LeftoversModel.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 
 #include <QDateTime>
@@ -24,6 +26,8 @@ class AppModel : public QObject {
     Q_PROPERTY(Preferences* preferences READ preferences CONSTANT)
     Q_PROPERTY(SystemJunkModel* junk READ junk CONSTANT)
     Q_PROPERTY(SpaceLensModel* spaceLens READ spaceLens CONSTANT)
+    Q_PROPERTY(UninstallerModel* uninstaller READ uninstaller CONSTANT)
+    Q_PROPERTY(LeftoversModel* leftovers READ leftovers CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
@@ -45,6 +49,8 @@ public:
     Preferences* preferences() const { return settings; }
     SystemJunkModel* junk() const { return junkModel; }
     SpaceLensModel* spaceLens() const { return lens; }
+    UninstallerModel* uninstaller() const { return appsModel; }
+    LeftoversModel* leftovers() const { return leftoversModel; }
 
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
@@ -60,6 +66,8 @@ private:
     // The channels' models, in the order they are made.
     SystemJunkModel* junkModel;
     SpaceLensModel* lens;
+    UninstallerModel* appsModel;
+    LeftoversModel* leftoversModel;
     ChannelList* channelList;
 
     Channel currentChannel = Channel::home;
