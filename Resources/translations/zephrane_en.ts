@@ -772,8 +772,8 @@
         <translation>Files go to</translation>
     </message>
     <message id="apps.selected">
-        <source>%1 selected · %2</source>
-        <translation>%1 selected · %2</translation>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
     </message>
     <message id="apps.confirm.note">
         <source>%1 will be uninstalled, with the files you ticked.</source>
@@ -894,6 +894,10 @@
     <message id="leftovers.item.in">
         <source>in %1</source>
         <translation>in %1</translation>
+    </message>
+    <message id="apps.selected.label">
+        <source>Selected</source>
+        <translation>Selected</translation>
     </message>
 </context>
 </TS>

@@ -184,14 +184,19 @@ FocusScope {
             height: 1
             color: PainelTheme.divider
         }
-        Text {
-            objectName: "selectedText"
+        Column {
             anchors { left: parent.left; leftMargin: 24; right: controls.left; rightMargin: 16; verticalCenter: parent.verticalCenter }
-            text: root.model.selectedText
-            color: PainelTheme.text
-            font.family: PainelTheme.monoFamily
-            font.pixelSize: 14
-            elide: Text.ElideRight
+            spacing: 4
+            MonoLabel { text: qsTrId("apps.selected.label"); tone: MonoLabel.Faint }
+            Text {
+                objectName: "selectedText"
+                width: parent.width
+                text: root.model.selectedText
+                color: PainelTheme.text
+                font.family: PainelTheme.monoFamily
+                font.pixelSize: 14
+                elide: Text.ElideRight
+            }
         }
         Row {
             id: controls

@@ -388,6 +388,7 @@ void UninstallerModel::selectedChanged() {
             for (const AppLeftover& leftover : found->second)
                 kinds.emplace(leftover.url, leftover.kind);
     }
+    const std::optional<InstalledApp> bundle = app ? std::optional(*app) : std::nullopt;
     fileRows = new CleanupItemList(app ? files(*app) : std::vector<CleanupItem>{}, *selection(),
                                    [kinds, home = homeFolder](const CleanupItem& item) {
                                        const auto kind = kinds.find(item.url);
@@ -396,6 +397,12 @@ void UninstallerModel::selectedChanged() {
                                                                  : QString::fromStdString(CleanerCore::title(kind->second));
                                        return title + QStringLiteral(" · ") +
                                               (item.note ? QString::fromStdString(*item.note) : homeShort(item.url, home));
+                                   },
+                                   [bundle](const CleanupItem& item) {
+                                       // A Flatpak's deploy folder is named by its commit: show the app.
+                                       return bundle && item.url == bundle->url && CleanerCore::isFlatpak(bundle->kind)
+                                                  ? QString::fromStdString(bundle->name)
+                                                  : QString::fromStdString(item.name());
                                    },
                                    this);
     connect(this, &ModulePhaseModel::selectionChanged, fileRows, [list = fileRows] { list->refreshSelection(); });
@@ -484,8 +491,10 @@ QString UninstallerModel::lastUsedText() const {
         return {};
     if (!app->lastUsed)
         return qtTrId("apps.lastUsed.never");
-    return qtTrId("apps.lastUsed").arg(QString::fromStdString(CleanerCore::RelativeDate::string(
-        *app->lastUsed, std::chrono::system_clock::now(), CleanerCore::CoreL10n::bundle())));
+    // A use stamped a moment ahead of this clock is a use just now, not one to come.
+    const auto now = std::chrono::system_clock::now();
+    return qtTrId("apps.lastUsed").arg(QString::fromStdString(
+        CleanerCore::RelativeDate::string(std::min(*app->lastUsed, now), now, CleanerCore::CoreL10n::bundle())));
 }
 
 QString UninstallerModel::blockerRaw() const {
