@@ -899,5 +899,13 @@
         <source>Selected</source>
         <translation>Selected</translation>
     </message>
+    <message id="apps.lastUsed.now">
+        <source>Used just now</source>
+        <translation>Used just now</translation>
+    </message>
+    <message id="apps.confirm.question.flatpak">
+        <source>Uninstall %1 with Flatpak?</source>
+        <translation>Uninstall %1 with Flatpak?</translation>
+    </message>
 </context>
 </TS>

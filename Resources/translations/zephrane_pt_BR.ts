@@ -899,5 +899,13 @@
         <source>Selected</source>
         <translation>Selecionado</translation>
     </message>
+    <message id="apps.lastUsed.now">
+        <source>Used just now</source>
+        <translation>Usado agora há pouco</translation>
+    </message>
+    <message id="apps.confirm.question.flatpak">
+        <source>Uninstall %1 with Flatpak?</source>
+        <translation>Desinstalar %1 pelo Flatpak?</translation>
+    </message>
 </context>
 </TS>

@@ -204,6 +204,7 @@ FocusScope {
             spacing: 16
             DestinationPicker {
                 anchors.verticalCenter: parent.verticalCenter
+                visible: root.model.blocker.length === 0
                 model: root.model
                 title: qsTrId("apps.destination")
             }

@@ -381,6 +381,7 @@ void UninstallerModel::resetSelection() {
 void UninstallerModel::selectedChanged() {
     CleanupItemList* old = fileRows;
     const InstalledApp* app = selectedApp();
+    const std::optional<InstalledApp> bundle = app ? std::optional(*app) : std::nullopt;
     std::unordered_map<URL, LeftoverKind> kinds;
     if (app) {
         kinds.emplace(app->url, LeftoverKind::app);
@@ -388,13 +389,15 @@ void UninstallerModel::selectedChanged() {
             for (const AppLeftover& leftover : found->second)
                 kinds.emplace(leftover.url, leftover.kind);
     }
-    const std::optional<InstalledApp> bundle = app ? std::optional(*app) : std::nullopt;
     fileRows = new CleanupItemList(app ? files(*app) : std::vector<CleanupItem>{}, *selection(),
-                                   [kinds, home = homeFolder](const CleanupItem& item) {
+                                   [kinds, home = homeFolder, bundle](const CleanupItem& item) {
                                        const auto kind = kinds.find(item.url);
                                        const QString title = kind == kinds.end()
                                                                  ? QString()
                                                                  : QString::fromStdString(CleanerCore::title(kind->second));
+                                       // A Flatpak's deploy folder means nothing to its user: say how it goes.
+                                       if (bundle && item.url == bundle->url && CleanerCore::isFlatpak(bundle->kind))
+                                           return title + QStringLiteral(" · ") + InstalledAppList::kindText(bundle->kind);
                                        return title + QStringLiteral(" · ") +
                                               (item.note ? QString::fromStdString(*item.note) : homeShort(item.url, home));
                                    },
@@ -491,10 +494,12 @@ QString UninstallerModel::lastUsedText() const {
         return {};
     if (!app->lastUsed)
         return qtTrId("apps.lastUsed.never");
-    // A use stamped a moment ahead of this clock is a use just now, not one to come.
+    // Within the last minute (or stamped a moment ahead of this clock) is just now, not "in 0 seconds".
     const auto now = std::chrono::system_clock::now();
-    return qtTrId("apps.lastUsed").arg(QString::fromStdString(
-        CleanerCore::RelativeDate::string(std::min(*app->lastUsed, now), now, CleanerCore::CoreL10n::bundle())));
+    if (now - *app->lastUsed < std::chrono::minutes(1))
+        return qtTrId("apps.lastUsed.now");
+    return qtTrId("apps.lastUsed").arg(
+        QString::fromStdString(CleanerCore::RelativeDate::string(*app->lastUsed, now, CleanerCore::CoreL10n::bundle())));
 }
 
 QString UninstallerModel::blockerRaw() const {
@@ -552,4 +557,11 @@ QString UninstallerModel::successBody() const {
         return {};
     return outcome() && outcome()->destination == CleanDestination::trash ? qtTrId("apps.success.flatpak.trash")
                                                                            : qtTrId("apps.success.flatpak.delete");
+}
+
+QString UninstallerModel::confirmQuestion() const {
+    const InstalledApp* app = selectedApp();
+    if (!app || !CleanerCore::isFlatpak(app->kind) || !selection()->contains(app->url))
+        return {};
+    return qtTrId("apps.confirm.question.flatpak").arg(selectedName());
 }

@@ -108,6 +108,7 @@ public:
     qint64 foundBytes() const override;
     QString foundSpoken() const override;
     QString successBody() const override;
+    QString confirmQuestion() const override;
 
 signals:
     void searchChanged();

@@ -60,6 +60,7 @@ class ModulePhaseModel : public QObject {
     Q_PROPERTY(CleanupSelection* selection READ selection CONSTANT)
     Q_PROPERTY(ModulePhaseActions* actions READ actions CONSTANT)
     Q_PROPERTY(QString successBody READ successBody NOTIFY outcomeChanged)
+    Q_PROPERTY(QString confirmQuestion READ confirmQuestion NOTIFY selectionChanged)
 
 public:
     ModulePhaseModel(Preferences& preferences, QObject* parent = nullptr);
@@ -105,6 +106,8 @@ public:
     // The success panel's sentence when the channel's last removal deserves its own words (an app
     // uninstalled by its package manager did not go to the trash); empty for the shared one.
     virtual QString successBody() const { return {}; }
+    // Likewise the confirmation's question, when the selection is not simply moved or deleted.
+    virtual QString confirmQuestion() const { return {}; }
 
     ModulePhaseActions* actions() const { return phaseActions; }
 

@@ -136,6 +136,8 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         click(window, find(window, "uninstallKey"));
         QmlTestSupport::settle(150);
         EXPECT_EQ(apps.painelPhase(), PainelPhase::confirm);
+        EXPECT_EQ(apps.confirmQuestion(), qtTrId("apps.confirm.question.flatpak").arg("Gone Editor"))
+            << "an uninstall is not asked as a move to the trash";
         QmlTestSupport::saveScreenshot(*window, shot + "5-confirm");
         click(window, find(window, "confirmKey"));
         waitFor([&] { return apps.phase() == ModulePhase::done; });
