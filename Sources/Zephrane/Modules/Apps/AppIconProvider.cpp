@@ -22,7 +22,8 @@ public:
         image = AppIconProvider::load(path, size);
         if (remember)
             remember(image);
-        emit finished();
+        // Told on the response's own thread, once whoever asked is surely listening.
+        finishSoon();
     }
     void finishSoon() { QMetaObject::invokeMethod(this, &QQuickImageResponse::finished, Qt::QueuedConnection); }
 
