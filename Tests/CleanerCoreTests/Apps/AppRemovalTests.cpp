@@ -54,7 +54,9 @@ TEST(FlatpakUninstall, RemovesTheAppThroughItsInstallation) {
     if (fixture == nullptr)
         GTEST_SKIP() << FlatpakFixture::unavailable();
     fixture->exportApp({"org.zephrane.Test.Leaving", "Leaving", "1.0"});
+    fixture->exportApp({"org.zephrane.Test.LeavingWide", "Leaving Wide", "1.0"});
     fixture->install("org.zephrane.Test.Leaving");
+    fixture->install("org.zephrane.Test.LeavingWide", FlatpakFixture::Scope::system);
     TestSupport::TempTree home;
     AppInventory::Sources sources;
     sources.home = URL::file(home.root().string());
@@ -68,6 +70,14 @@ TEST(FlatpakUninstall, RemovesTheAppThroughItsInstallation) {
     FlatpakFixture::run({"flatpak", "list", "--user", "--app", "--columns=application"}, listed);
     EXPECT_EQ(listed.find("org.zephrane.Test.Leaving"), std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(app->url.path()));
+
+    // A system installation is found among the system ones (as root no password is asked).
+    const auto wide = std::ranges::find(apps, std::optional<std::string>("org.zephrane.Test.LeavingWide"), &InstalledApp::bundleID);
+    ASSERT_NE(wide, apps.end());
+    EXPECT_EQ(wide->kind, AppKind::flatpakSystem);
+    EXPECT_EQ(Platform::uninstallFlatpak(wide->url.path()), std::nullopt);
+    FlatpakFixture::run({"flatpak", "list", "--system", "--app", "--columns=application"}, listed);
+    EXPECT_EQ(listed.find("org.zephrane.Test.LeavingWide"), std::string::npos);
 
     // A second try has a plain reason, not an error code.
     EXPECT_EQ(Platform::uninstallFlatpak(app->url.path()), CoreL10n::string("core.uninstall.failure.notInstalled"));
