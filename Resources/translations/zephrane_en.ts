@@ -871,5 +871,237 @@
         <source>Remove %1</source>
         <translation>Remove %1</translation>
     </message>
+    <message id="apps.step.apps">
+        <source>Installed apps</source>
+        <translation>Installed apps</translation>
+    </message>
+    <message id="apps.step.leftovers">
+        <source>Their files</source>
+        <translation>Their files</translation>
+    </message>
+    <message id="apps.idle.message">
+        <source>See every app you installed — Flatpaks, AppImages and bundles — with the files each one keeps in your home folder, and remove an app together with them.</source>
+        <translation>See every app you installed — Flatpaks, AppImages and bundles — with the files each one keeps in your home folder, and remove an app together with them.</translation>
+    </message>
+    <message id="apps.empty.message">
+        <source>No installed apps were found that could be removed from here.</source>
+        <translation>No installed apps were found that could be removed from here.</translation>
+    </message>
+    <message id="apps.search">
+        <source>Search by name or id</source>
+        <translation>Search by name or id</translation>
+    </message>
+    <message id="apps.search.clear">
+        <source>Clear the search</source>
+        <translation>Clear the search</translation>
+    </message>
+    <message id="apps.search.none">
+        <source>No app matches this search.</source>
+        <translation>No app matches this search.</translation>
+    </message>
+    <message id="apps.sort">
+        <source>Sort</source>
+        <translation>Sort</translation>
+    </message>
+    <message id="apps.sort.size">
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message id="apps.sort.name">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="apps.sort.lastUsed">
+        <source>Last used</source>
+        <translation>Last used</translation>
+    </message>
+    <message id="apps.list">
+        <source>Installed apps</source>
+        <translation>Installed apps</translation>
+    </message>
+    <message id="apps.list.count.one">
+        <source>%1 app</source>
+        <translation>%1 app</translation>
+    </message>
+    <message id="apps.list.count.other">
+        <source>%1 apps</source>
+        <translation>%1 apps</translation>
+    </message>
+    <message id="apps.kind.bundle">
+        <source>App bundle</source>
+        <translation>App bundle</translation>
+    </message>
+    <message id="apps.kind.flatpakUser">
+        <source>Flatpak, yours</source>
+        <translation>Flatpak, yours</translation>
+    </message>
+    <message id="apps.kind.flatpakSystem">
+        <source>Flatpak, system-wide</source>
+        <translation>Flatpak, system-wide</translation>
+    </message>
+    <message id="apps.kind.appImage">
+        <source>AppImage</source>
+        <translation>AppImage</translation>
+    </message>
+    <message id="apps.version">
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message id="apps.lastUsed">
+        <source>Last used %1</source>
+        <translation>Last used %1</translation>
+    </message>
+    <message id="apps.lastUsed.never">
+        <source>Never used, as far as the desktop knows</source>
+        <translation>Never used, as far as the desktop knows</translation>
+    </message>
+    <message id="apps.files.label">
+        <source>Files that go with it</source>
+        <translation>Files that go with it</translation>
+    </message>
+    <message id="apps.uninstall">
+        <source>Uninstall</source>
+        <translation>Uninstall</translation>
+    </message>
+    <message id="apps.destination">
+        <source>Files go to</source>
+        <translation>Files go to</translation>
+    </message>
+    <message id="apps.selected">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="apps.confirm.note">
+        <source>%1 will be uninstalled, with the files you ticked.</source>
+        <translation>%1 will be uninstalled, with the files you ticked.</translation>
+    </message>
+    <message id="apps.blocked.running">
+        <source>%1 is open. Quit it before uninstalling it.</source>
+        <translation>%1 is open. Quit it before uninstalling it.</translation>
+    </message>
+    <message id="apps.blocked.apple">
+        <source>%1 is part of the system and stays.</source>
+        <translation>%1 is part of the system and stays.</translation>
+    </message>
+    <message id="apps.blocked.self">
+        <source>Zephrane can't uninstall itself.</source>
+        <translation>Zephrane can't uninstall itself.</translation>
+    </message>
+    <message id="apps.blocked.button.running">
+        <source>Quit the app first</source>
+        <translation>Quit the app first</translation>
+    </message>
+    <message id="apps.blocked.button.apple">
+        <source>Part of the system</source>
+        <translation>Part of the system</translation>
+    </message>
+    <message id="apps.blocked.button.self">
+        <source>This is Zephrane</source>
+        <translation>This is Zephrane</translation>
+    </message>
+    <message id="apps.blocked.quit">
+        <source>Ask it to quit</source>
+        <translation>Ask it to quit</translation>
+    </message>
+    <message id="apps.success.flatpak.trash">
+        <source>Flatpak uninstalled the app. The files you ticked went to the Trash, where you can still get them back.</source>
+        <translation>Flatpak uninstalled the app. The files you ticked went to the Trash, where you can still get them back.</translation>
+    </message>
+    <message id="apps.success.flatpak.delete">
+        <source>Flatpak uninstalled the app, and the files you ticked were deleted for good.</source>
+        <translation>Flatpak uninstalled the app, and the files you ticked were deleted for good.</translation>
+    </message>
+    <message id="leftovers.step.library">
+        <source>Your home's app folders</source>
+        <translation>Your home's app folders</translation>
+    </message>
+    <message id="leftovers.idle.message">
+        <source>Apps you removed often leave settings, caches and data behind. Scan to find what belongs to no installed app.</source>
+        <translation>Apps you removed often leave settings, caches and data behind. Scan to find what belongs to no installed app.</translation>
+    </message>
+    <message id="leftovers.empty.message">
+        <source>Nothing here belongs to an app that is gone.</source>
+        <translation>Nothing here belongs to an app that is gone.</translation>
+    </message>
+    <message id="leftovers.empty.partial">
+        <source>Nothing was found in the folders Zephrane could read. Some places could not be read, so this may not be everything.</source>
+        <translation>Nothing was found in the folders Zephrane could read. Some places could not be read, so this may not be everything.</translation>
+    </message>
+    <message id="leftovers.confirm.note">
+        <source>These files were judged by their names alone. Look them over before they go.</source>
+        <translation>These files were judged by their names alone. Look them over before they go.</translation>
+    </message>
+    <message id="leftovers.found">
+        <source>Found</source>
+        <translation>Found</translation>
+    </message>
+    <message id="leftovers.summary">
+        <source>Leftovers of removed apps</source>
+        <translation>Leftovers of removed apps</translation>
+    </message>
+    <message id="leftovers.summary.apps">
+        <source>Removed apps with leftovers: %1</source>
+        <translation>Removed apps with leftovers: %1</translation>
+    </message>
+    <message id="leftovers.summary.detail">
+        <source>Grouped by the id in their names. Nothing is ticked: tick what you recognise.</source>
+        <translation>Grouped by the id in their names. Nothing is ticked: tick what you recognise.</translation>
+    </message>
+    <message id="leftovers.partial">
+        <source>Some places could not be read, so this may not be everything. Full Disk Access is in Settings.</source>
+        <translation>Some places could not be read, so this may not be everything. Full Disk Access is in Settings.</translation>
+    </message>
+    <message id="leftovers.groups">
+        <source>Groups</source>
+        <translation>Groups</translation>
+    </message>
+    <message id="leftovers.selected">
+        <source>Selected</source>
+        <translation>Selected</translation>
+    </message>
+    <message id="leftovers.selected.value">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="leftovers.clean">
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message id="leftovers.destination">
+        <source>Remove to</source>
+        <translation>Remove to</translation>
+    </message>
+    <message id="leftovers.group.items">
+        <source>%1</source>
+        <translation>%1</translation>
+    </message>
+    <message id="leftovers.group.mixed">
+        <source>some ticked</source>
+        <translation>some ticked</translation>
+    </message>
+    <message id="leftovers.group.expand">
+        <source>Show the files</source>
+        <translation>Show the files</translation>
+    </message>
+    <message id="leftovers.group.collapse">
+        <source>Hide the files</source>
+        <translation>Hide the files</translation>
+    </message>
+    <message id="leftovers.item.in">
+        <source>in %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message id="apps.selected.label">
+        <source>Selected</source>
+        <translation>Selected</translation>
+    </message>
+    <message id="apps.lastUsed.now">
+        <source>Used just now</source>
+        <translation>Used just now</translation>
+    </message>
+    <message id="apps.confirm.question.flatpak">
+        <source>Uninstall %1 with Flatpak?</source>
+        <translation>Uninstall %1 with Flatpak?</translation>
+    </message>
 </context>
 </TS>

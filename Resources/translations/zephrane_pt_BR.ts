@@ -871,5 +871,237 @@
         <source>Remove %1</source>
         <translation>Remover %1</translation>
     </message>
+    <message id="apps.step.apps">
+        <source>Installed apps</source>
+        <translation>Apps instalados</translation>
+    </message>
+    <message id="apps.step.leftovers">
+        <source>Their files</source>
+        <translation>Arquivos deles</translation>
+    </message>
+    <message id="apps.idle.message">
+        <source>See every app you installed — Flatpaks, AppImages and bundles — with the files each one keeps in your home folder, and remove an app together with them.</source>
+        <translation>Veja cada app que você instalou — Flatpaks, AppImages e pacotes — com os arquivos que cada um guarda na sua pasta pessoal, e remova um app junto com eles.</translation>
+    </message>
+    <message id="apps.empty.message">
+        <source>No installed apps were found that could be removed from here.</source>
+        <translation>Não foi encontrado nenhum app instalado que possa ser removido daqui.</translation>
+    </message>
+    <message id="apps.search">
+        <source>Search by name or id</source>
+        <translation>Buscar por nome ou id</translation>
+    </message>
+    <message id="apps.search.clear">
+        <source>Clear the search</source>
+        <translation>Limpar a busca</translation>
+    </message>
+    <message id="apps.search.none">
+        <source>No app matches this search.</source>
+        <translation>Nenhum app corresponde a esta busca.</translation>
+    </message>
+    <message id="apps.sort">
+        <source>Sort</source>
+        <translation>Ordem</translation>
+    </message>
+    <message id="apps.sort.size">
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message id="apps.sort.name">
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message id="apps.sort.lastUsed">
+        <source>Last used</source>
+        <translation>Último uso</translation>
+    </message>
+    <message id="apps.list">
+        <source>Installed apps</source>
+        <translation>Apps instalados</translation>
+    </message>
+    <message id="apps.list.count.one">
+        <source>%1 app</source>
+        <translation>%1 app</translation>
+    </message>
+    <message id="apps.list.count.other">
+        <source>%1 apps</source>
+        <translation>%1 apps</translation>
+    </message>
+    <message id="apps.kind.bundle">
+        <source>App bundle</source>
+        <translation>Pacote de app</translation>
+    </message>
+    <message id="apps.kind.flatpakUser">
+        <source>Flatpak, yours</source>
+        <translation>Flatpak, seu</translation>
+    </message>
+    <message id="apps.kind.flatpakSystem">
+        <source>Flatpak, system-wide</source>
+        <translation>Flatpak, do sistema</translation>
+    </message>
+    <message id="apps.kind.appImage">
+        <source>AppImage</source>
+        <translation>AppImage</translation>
+    </message>
+    <message id="apps.version">
+        <source>Version %1</source>
+        <translation>Versão %1</translation>
+    </message>
+    <message id="apps.lastUsed">
+        <source>Last used %1</source>
+        <translation>Último uso %1</translation>
+    </message>
+    <message id="apps.lastUsed.never">
+        <source>Never used, as far as the desktop knows</source>
+        <translation>Nunca usado, até onde o ambiente sabe</translation>
+    </message>
+    <message id="apps.files.label">
+        <source>Files that go with it</source>
+        <translation>Arquivos que vão junto</translation>
+    </message>
+    <message id="apps.uninstall">
+        <source>Uninstall</source>
+        <translation>Desinstalar</translation>
+    </message>
+    <message id="apps.destination">
+        <source>Files go to</source>
+        <translation>Arquivos vão para</translation>
+    </message>
+    <message id="apps.selected">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="apps.confirm.note">
+        <source>%1 will be uninstalled, with the files you ticked.</source>
+        <translation>%1 será desinstalado, com os arquivos que você marcou.</translation>
+    </message>
+    <message id="apps.blocked.running">
+        <source>%1 is open. Quit it before uninstalling it.</source>
+        <translation>%1 está aberto. Encerre-o antes de desinstalá-lo.</translation>
+    </message>
+    <message id="apps.blocked.apple">
+        <source>%1 is part of the system and stays.</source>
+        <translation>%1 faz parte do sistema e fica.</translation>
+    </message>
+    <message id="apps.blocked.self">
+        <source>Zephrane can't uninstall itself.</source>
+        <translation>O Zephrane não pode desinstalar a si mesmo.</translation>
+    </message>
+    <message id="apps.blocked.button.running">
+        <source>Quit the app first</source>
+        <translation>Encerre o app antes</translation>
+    </message>
+    <message id="apps.blocked.button.apple">
+        <source>Part of the system</source>
+        <translation>Parte do sistema</translation>
+    </message>
+    <message id="apps.blocked.button.self">
+        <source>This is Zephrane</source>
+        <translation>Este é o Zephrane</translation>
+    </message>
+    <message id="apps.blocked.quit">
+        <source>Ask it to quit</source>
+        <translation>Pedir para encerrar</translation>
+    </message>
+    <message id="apps.success.flatpak.trash">
+        <source>Flatpak uninstalled the app. The files you ticked went to the Trash, where you can still get them back.</source>
+        <translation>O Flatpak desinstalou o app. Os arquivos que você marcou foram para a Lixeira, de onde ainda podem voltar.</translation>
+    </message>
+    <message id="apps.success.flatpak.delete">
+        <source>Flatpak uninstalled the app, and the files you ticked were deleted for good.</source>
+        <translation>O Flatpak desinstalou o app, e os arquivos que você marcou foram apagados de vez.</translation>
+    </message>
+    <message id="leftovers.step.library">
+        <source>Your home's app folders</source>
+        <translation>Pastas de apps da sua pasta pessoal</translation>
+    </message>
+    <message id="leftovers.idle.message">
+        <source>Apps you removed often leave settings, caches and data behind. Scan to find what belongs to no installed app.</source>
+        <translation>Apps que você removeu costumam deixar configurações, caches e dados para trás. Analise para achar o que não pertence a nenhum app instalado.</translation>
+    </message>
+    <message id="leftovers.empty.message">
+        <source>Nothing here belongs to an app that is gone.</source>
+        <translation>Nada aqui pertence a um app que já foi removido.</translation>
+    </message>
+    <message id="leftovers.empty.partial">
+        <source>Nothing was found in the folders Zephrane could read. Some places could not be read, so this may not be everything.</source>
+        <translation>Nada foi encontrado nas pastas que o Zephrane conseguiu ler. Alguns lugares não puderam ser lidos, então isto pode não ser tudo.</translation>
+    </message>
+    <message id="leftovers.confirm.note">
+        <source>These files were judged by their names alone. Look them over before they go.</source>
+        <translation>Estes arquivos foram julgados só pelos nomes. Confira antes que saiam.</translation>
+    </message>
+    <message id="leftovers.found">
+        <source>Found</source>
+        <translation>Encontrado</translation>
+    </message>
+    <message id="leftovers.summary">
+        <source>Leftovers of removed apps</source>
+        <translation>Restos de apps removidos</translation>
+    </message>
+    <message id="leftovers.summary.apps">
+        <source>Removed apps with leftovers: %1</source>
+        <translation>Apps removidos com restos: %1</translation>
+    </message>
+    <message id="leftovers.summary.detail">
+        <source>Grouped by the id in their names. Nothing is ticked: tick what you recognise.</source>
+        <translation>Agrupados pelo id nos nomes. Nada vem marcado: marque o que você reconhecer.</translation>
+    </message>
+    <message id="leftovers.partial">
+        <source>Some places could not be read, so this may not be everything. Full Disk Access is in Settings.</source>
+        <translation>Alguns lugares não puderam ser lidos, então isto pode não ser tudo. O Acesso Total ao Disco fica nos Ajustes.</translation>
+    </message>
+    <message id="leftovers.groups">
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message id="leftovers.selected">
+        <source>Selected</source>
+        <translation>Selecionado</translation>
+    </message>
+    <message id="leftovers.selected.value">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="leftovers.clean">
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message id="leftovers.destination">
+        <source>Remove to</source>
+        <translation>Remover para</translation>
+    </message>
+    <message id="leftovers.group.items">
+        <source>%1</source>
+        <translation>%1</translation>
+    </message>
+    <message id="leftovers.group.mixed">
+        <source>some ticked</source>
+        <translation>alguns marcados</translation>
+    </message>
+    <message id="leftovers.group.expand">
+        <source>Show the files</source>
+        <translation>Mostrar os arquivos</translation>
+    </message>
+    <message id="leftovers.group.collapse">
+        <source>Hide the files</source>
+        <translation>Ocultar os arquivos</translation>
+    </message>
+    <message id="leftovers.item.in">
+        <source>in %1</source>
+        <translation>em %1</translation>
+    </message>
+    <message id="apps.selected.label">
+        <source>Selected</source>
+        <translation>Selecionado</translation>
+    </message>
+    <message id="apps.lastUsed.now">
+        <source>Used just now</source>
+        <translation>Usado agora há pouco</translation>
+    </message>
+    <message id="apps.confirm.question.flatpak">
+        <source>Uninstall %1 with Flatpak?</source>
+        <translation>Desinstalar %1 pelo Flatpak?</translation>
+    </message>
 </context>
 </TS>

@@ -4,8 +4,10 @@
 #include "App/ChannelInfo.hpp"
 #include "App/ChannelList.hpp"
 #include "App/Preferences.hpp"
+#include "Modules/Apps/UninstallerModel.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
 #include "Modules/Large/LargeFilesModel.hpp"
+#include "Modules/Leftovers/LeftoversModel.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 
 #include <QDateTime>
@@ -26,6 +28,8 @@ class AppModel : public QObject {
     Q_PROPERTY(SystemJunkModel* junk READ junk CONSTANT)
     Q_PROPERTY(SpaceLensModel* spaceLens READ spaceLens CONSTANT)
     Q_PROPERTY(LargeFilesModel* large READ large CONSTANT)
+    Q_PROPERTY(UninstallerModel* uninstaller READ uninstaller CONSTANT)
+    Q_PROPERTY(LeftoversModel* leftovers READ leftovers CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
@@ -48,6 +52,8 @@ public:
     SystemJunkModel* junk() const { return junkModel; }
     SpaceLensModel* spaceLens() const { return lens; }
     LargeFilesModel* large() const { return largeModel; }
+    UninstallerModel* uninstaller() const { return appsModel; }
+    LeftoversModel* leftovers() const { return leftoversModel; }
 
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
@@ -64,6 +70,8 @@ private:
     SystemJunkModel* junkModel;
     SpaceLensModel* lens;
     LargeFilesModel* largeModel;
+    UninstallerModel* appsModel;
+    LeftoversModel* leftoversModel;
     ChannelList* channelList;
 
     Channel currentChannel = Channel::home;

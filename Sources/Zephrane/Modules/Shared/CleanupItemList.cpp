@@ -7,6 +7,11 @@ CleanupItemList::CleanupItemList(std::vector<CleanerCore::CleanupItem> list, con
                                  Subtitle describe, QObject* parent)
     : QAbstractListModel(parent), items(std::move(list)), selection(chosen), subtitle(std::move(describe)) {}
 
+CleanupItemList::CleanupItemList(std::vector<CleanerCore::CleanupItem> list, const CleanupSelection& chosen,
+                                 Subtitle describe, Name named, QObject* parent)
+    : QAbstractListModel(parent), items(std::move(list)), selection(chosen), subtitle(std::move(describe)),
+      name(std::move(named)) {}
+
 int CleanupItemList::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(items.size());
 }
@@ -24,7 +29,7 @@ QVariant CleanupItemList::data(const QModelIndex& index, int role) const {
     case PathRole:
         return QString::fromStdString(item.url.path());
     case NameRole:
-        return QString::fromStdString(item.name());
+        return name ? name(item) : QString::fromStdString(item.name());
     case SizeTextRole:
         return ByteFormat::text(static_cast<double>(item.size));
     case SubtitleRole:

@@ -22,8 +22,13 @@ public:
     // What a row's second line says about an item.
     using Subtitle = std::function<QString(const CleanerCore::CleanupItem&)>;
 
+    // What a row's first line says; its file name when not given.
+    using Name = std::function<QString(const CleanerCore::CleanupItem&)>;
+
     CleanupItemList(std::vector<CleanerCore::CleanupItem> items, const CleanupSelection& selection,
                     Subtitle subtitle, QObject* parent = nullptr);
+    CleanupItemList(std::vector<CleanerCore::CleanupItem> items, const CleanupSelection& selection,
+                    Subtitle subtitle, Name name, QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -36,4 +41,5 @@ private:
     std::vector<CleanerCore::CleanupItem> items;
     const CleanupSelection& selection;
     Subtitle subtitle;
+    Name name;
 };

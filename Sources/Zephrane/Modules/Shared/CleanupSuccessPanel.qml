@@ -48,7 +48,8 @@ Item {
             }
             Text {
                 Layout.fillWidth: true
-                text: root.toTrash ? qsTrId("success.body.trash") : qsTrId("success.body.delete")
+                text: root.model.successBody.length > 0 ? root.model.successBody
+                      : root.toTrash ? qsTrId("success.body.trash") : qsTrId("success.body.delete")
                 color: PainelTheme.muted
                 font.family: PainelTheme.sansFamily
                 font.pixelSize: 14

@@ -45,7 +45,8 @@ Rectangle {
                 MonoLabel { text: qsTrId("confirm.title"); tone: MonoLabel.Accent }
                 Text {
                     width: parent.width
-                    text: root.forGood ? qsTrId("confirm.question.delete") : qsTrId("confirm.question.trash")
+                    text: root.model.confirmQuestion.length > 0 ? root.model.confirmQuestion
+                          : root.forGood ? qsTrId("confirm.question.delete") : qsTrId("confirm.question.trash")
                     color: PainelTheme.text
                     font.family: PainelTheme.sansFamily
                     font.pixelSize: 20

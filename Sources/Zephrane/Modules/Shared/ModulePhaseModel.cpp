@@ -170,7 +170,7 @@ ModulePhaseModel::RemovalJob ModulePhaseModel::removalJob(std::vector<CleanupIte
 
 QFuture<void> ModulePhaseModel::clean(CleanerCore::RemovalMode mode) {
     std::vector<CleanupItem> items = selectedItems();
-    if (items.empty() || current != ModulePhase::ready)
+    if (items.empty() || current != ModulePhase::ready || !readyToRemove())
         return QtFuture::makeReadyFuture();
     const auto started = std::chrono::steady_clock::now();
     std::vector<CleanupCategory> before = categories();

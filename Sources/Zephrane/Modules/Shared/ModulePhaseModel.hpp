@@ -59,6 +59,8 @@ class ModulePhaseModel : public QObject {
     Q_PROPERTY(int itemCount READ itemCount NOTIFY resultsChanged)
     Q_PROPERTY(CleanupSelection* selection READ selection CONSTANT)
     Q_PROPERTY(ModulePhaseActions* actions READ actions CONSTANT)
+    Q_PROPERTY(QString successBody READ successBody NOTIFY outcomeChanged)
+    Q_PROPERTY(QString confirmQuestion READ confirmQuestion NOTIFY selectionChanged)
 
 public:
     ModulePhaseModel(Preferences& preferences, QObject* parent = nullptr);
@@ -101,6 +103,11 @@ public:
     // The found size in words for the results announcement; a channel whose finding reads better
     // in its own words ("3 apps") overrides it.
     virtual QString foundSpoken() const;
+    // The success panel's sentence when the channel's last removal deserves its own words (an app
+    // uninstalled by its package manager did not go to the trash); empty for the shared one.
+    virtual QString successBody() const { return {}; }
+    // Likewise the confirmation's question, when the selection is not simply moved or deleted.
+    virtual QString confirmQuestion() const { return {}; }
 
     ModulePhaseActions* actions() const { return phaseActions; }
 
@@ -146,6 +153,10 @@ protected:
     // join the report. A channel whose things are not removed as files (an application uninstalled
     // through its package manager) returns its own job; it must still leave files to Cleaner.
     virtual RemovalJob removalJob(std::vector<CleanerCore::CleanupItem> items, CleanerCore::RemovalMode mode) const;
+
+    // Asked on the interface thread as a removal starts; a channel that must look again at the
+    // last moment (is the app still running?) refuses here, and the removal does not begin.
+    virtual bool readyToRemove() { return true; }
 
     void notifyResultsChanged();
     // Whether `ready` shows results rather than the empty screen. A channel whose results are more

@@ -1,0 +1,240 @@
+#include "App/AppModel.hpp"
+#include "App/MainWindow.hpp"
+#include "FlatpakFixture.hpp"
+#include "Modules/Apps/UninstallerModel.hpp"
+#include "Modules/Leftovers/LeftoversModel.hpp"
+#include "Support/QmlTestSupport.hpp"
+#include "TempTree.hpp"
+
+#include <QDir>
+#include <QProcess>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+using TestSupport::FlatpakFixture;
+
+namespace {
+
+constexpr const char* childLanguage = "ZEPHRANE_APPS_WINDOW_LANGUAGE";
+constexpr const char* appID = "org.zephrane.Test.Gone";
+
+fs::path testHome() {
+    const fs::path home = QDir::homePath().toStdString();
+    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
+        std::abort(); // never anywhere near a real home
+    return home;
+}
+
+fs::path trashFolder() {
+    return fs::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
+}
+
+void write(const fs::path& path, std::size_t bytes) {
+    fs::create_directories(path.parent_path());
+    std::ofstream(path) << std::string(bytes, 'x');
+}
+
+QQuickItem* findVisible(QQuickItem* root, const QString& name) {
+    for (QQuickItem* child : root->childItems()) {
+        if (child->objectName() == name && child->isVisible())
+            return child;
+        if (QQuickItem* found = findVisible(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+QQuickItem* find(QQuickWindow* window, const QString& name) {
+    QQuickItem* item = findVisible(window->contentItem(), name);
+    EXPECT_NE(item, nullptr) << name.toStdString();
+    return item;
+}
+
+void click(QQuickWindow* window, QQuickItem* item) {
+    ASSERT_NE(item, nullptr);
+    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
+}
+
+void waitFor(const std::function<bool()>& condition) {
+    ASSERT_TRUE(QTest::qWaitFor(condition, 60000));
+    QmlTestSupport::settle(150);
+}
+
+std::string installedUserApps() {
+    std::string output;
+    FlatpakFixture::run({"flatpak", "list", "--user", "--app", "--columns=application"}, output);
+    return output;
+}
+
+// The apps channel over a real Flatpak installation: find the app by its id, see it blocked while
+// it runs, uninstall it through the window; then the leftovers channel over what removed apps left.
+void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
+    fixture.exportApp({appID, "Gone Editor", "2.1", "stable", 32 * 1024});
+    fixture.install(appID);
+    ASSERT_NE(installedUserApps().find(appID), std::string::npos);
+    const fs::path home = testHome();
+    write(home / ".var/app" / appID / "config/settings.ini", 2048);
+    fs::remove_all(trashFolder());
+
+    QmlTestSupport::WarningCollector warnings;
+    {
+        AppModel model;
+        UninstallerModel& apps = *model.uninstaller();
+        std::set<std::string> running;
+        apps.setRunningSource([&] { return running; });
+        QQmlApplicationEngine engine;
+        QQuickWindow* window = MainWindow::load(engine, model);
+        ASSERT_NE(window, nullptr);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+        const QString shot = QStringLiteral("apps-%1-").arg(language);
+
+        apps.scanOnFirstVisit();
+        apps.stop();
+        waitFor([&] { return apps.phase() == ModulePhase::idle; });
+        model.open(Channel::apps);
+        QmlTestSupport::settle(150);
+        QmlTestSupport::saveScreenshot(*window, shot + "1-idle");
+
+        click(window, find(window, "scanKey"));
+        QmlTestSupport::saveScreenshot(*window, shot + "2-scanning");
+        waitFor([&] { return apps.phase() == ModulePhase::ready; });
+
+        // Found by its id from the keyboard: type, then Down picks the first match.
+        QQuickItem* search = find(window, "searchField");
+        ASSERT_NE(search, nullptr);
+        search->forceActiveFocus();
+        for (const char letter : std::string("test.gone"))
+            QTest::keyClick(window, letter);
+        QTest::keyClick(window, Qt::Key_Down);
+        QmlTestSupport::settle(300);
+        ASSERT_NE(apps.selectedApp(), nullptr);
+        EXPECT_EQ(apps.selectedApp()->bundleID, appID);
+        EXPECT_EQ(apps.selectedApp()->kind, CleanerCore::AppKind::flatpakUser);
+        EXPECT_EQ(apps.selection()->count(), 2) << "the app and its sandbox data start ticked";
+        QmlTestSupport::saveScreenshot(*window, shot + "3-results");
+
+        running = {"org.zephrane.test.gone"};
+        apps.refreshRunning();
+        QmlTestSupport::settle(150);
+        EXPECT_NE(find(window, "blockerBanner"), nullptr);
+        EXPECT_FALSE(find(window, "uninstallKey")->isEnabled());
+        QmlTestSupport::saveScreenshot(*window, shot + "4-blocked");
+        running.clear();
+        apps.refreshRunning();
+        QmlTestSupport::settle(150);
+
+        click(window, find(window, "uninstallKey"));
+        QmlTestSupport::settle(150);
+        EXPECT_EQ(apps.painelPhase(), PainelPhase::confirm);
+        EXPECT_EQ(apps.confirmQuestion(), qtTrId("apps.confirm.question.flatpak").arg("Gone Editor"))
+            << "an uninstall is not asked as a move to the trash";
+        QmlTestSupport::saveScreenshot(*window, shot + "5-confirm");
+        click(window, find(window, "confirmKey"));
+        waitFor([&] { return apps.phase() == ModulePhase::done; });
+        QmlTestSupport::saveScreenshot(*window, shot + "6-success");
+
+        ASSERT_TRUE(apps.outcome());
+        for (const auto& failure : apps.outcome()->failures)
+            ADD_FAILURE() << failure.url.path() << ": " << failure.reason;
+        EXPECT_EQ(installedUserApps().find(appID), std::string::npos) << "flatpak no longer lists it";
+        EXPECT_FALSE(fs::exists(home / ".var/app" / appID));
+        EXPECT_TRUE(fs::exists(trashFolder() / "files" / appID / "config/settings.ini"));
+        EXPECT_EQ(apps.successBody(), qtTrId("apps.success.flatpak.trash"));
+        click(window, find(window, "doneKey"));
+        QmlTestSupport::settle(150);
+
+        // What two removed apps left behind.
+        write(home / ".var/app/org.gone.Writer/data/big", 512 * 1024);
+        write(home / ".cache/org.gone.Writer/c", 8192);
+        write(home / ".config/org.gone.Writer/settings", 100);
+        write(home / ".var/app/net.old.Viewer/data/x", 4096);
+        LeftoversModel& leftovers = *model.leftovers();
+        model.open(Channel::leftovers);
+        const QString leftShot = QStringLiteral("leftovers-%1-").arg(language);
+        waitFor([&] { return leftovers.phase() == ModulePhase::ready; });
+        ASSERT_NE(leftovers.group("org.gone.writer"), nullptr);
+        EXPECT_EQ(leftovers.selection()->count(), 0);
+
+        QQuickItem* writer = find(window, "leftoverRow-org.gone.writer");
+        ASSERT_NE(writer, nullptr);
+        writer->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_Return);
+        QmlTestSupport::settle(150);
+        QQuickItem* firstItem = findVisible(writer, "itemCheck");
+        ASSERT_NE(firstItem, nullptr) << "Return opens the group";
+        click(window, firstItem);
+        QmlTestSupport::settle(150);
+        EXPECT_TRUE(leftovers.selection()->stateOf(leftovers.group("org.gone.writer")->items).isMixed);
+        QmlTestSupport::saveScreenshot(*window, leftShot + "1-mixed");
+        writer->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_Space);
+        QmlTestSupport::settle(150);
+        EXPECT_TRUE(leftovers.selection()->stateOf(leftovers.group("org.gone.writer")->items).isOn);
+        QmlTestSupport::saveScreenshot(*window, leftShot + "2-ticked");
+
+        click(window, find(window, "cleanKey"));
+        QmlTestSupport::settle(150);
+        EXPECT_EQ(leftovers.painelPhase(), PainelPhase::confirm);
+        QmlTestSupport::saveScreenshot(*window, leftShot + "3-confirm");
+        click(window, find(window, "confirmKey"));
+        waitFor([&] { return leftovers.phase() == ModulePhase::done; });
+        QmlTestSupport::saveScreenshot(*window, leftShot + "4-success");
+        EXPECT_FALSE(fs::exists(home / ".config/org.gone.Writer"));
+        EXPECT_TRUE(fs::exists(home / ".var/app/net.old.Viewer")) << "left unticked";
+        click(window, find(window, "doneKey"));
+        QmlTestSupport::settle(150);
+        EXPECT_EQ(leftovers.group("org.gone.writer"), nullptr) << "the emptied group is gone";
+
+        // Nothing left, read without access: the empty screen says it may not be everything.
+        fs::remove_all(home / ".var/app/net.old.Viewer");
+        leftovers.setAccessProbe([] { return false; });
+        leftovers.startScan();
+        waitFor([&] { return leftovers.phase() == ModulePhase::ready; });
+        EXPECT_EQ(leftovers.painelPhase(), PainelPhase::empty);
+        QmlTestSupport::saveScreenshot(*window, leftShot + "5-empty-partial");
+        window->close();
+    }
+    const QStringList seen = warnings.take();
+    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+}
+
+} // namespace
+
+TEST(AppsChannelWindow, UninstallAFlatpakThenClearLeftovers) {
+    FlatpakFixture* fixture = FlatpakFixture::shared();
+    if (fixture == nullptr)
+        GTEST_SKIP() << FlatpakFixture::unavailable();
+    QmlTestSupport::useLanguage("en");
+    runAppsChannels("en", *fixture);
+}
+
+// The engine's texts keep the language of their first use, so Portuguese gets a process of its own.
+TEST(AppsChannelWindow, PortugueseInAProcessOfItsOwn) {
+    if (qEnvironmentVariableIsSet(childLanguage)) {
+        FlatpakFixture* fixture = FlatpakFixture::shared();
+        if (fixture == nullptr)
+            GTEST_SKIP() << FlatpakFixture::unavailable();
+        QmlTestSupport::useLanguage("pt-BR");
+        runAppsChannels("pt-BR", *fixture);
+        QmlTestSupport::useLanguage("en");
+        return;
+    }
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(childLanguage, "pt-BR");
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::MergedChannels);
+    child.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=AppsChannelWindow.PortugueseInAProcessOfItsOwn"});
+    ASSERT_TRUE(child.waitForFinished(240000));
+    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+}
