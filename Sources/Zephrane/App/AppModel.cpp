@@ -4,7 +4,7 @@
 
 AppModel::AppModel(QObject* parent)
     : QObject(parent), settings(new Preferences(this)), junkModel(new SystemJunkModel(*settings, this)),
-      lens(new SpaceLensModel(*settings, this)), channelList(new ChannelList(*this, this)) {
+      lens(new SpaceLensModel(*settings, this)), trashModel(new TrashModel(*settings, this)), channelList(new ChannelList(*this, this)) {
     junkModel->actions()->setEmptyTrash([this] { open(Channel::trash); });
 }
 

@@ -6,6 +6,7 @@
 #include "App/Preferences.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
+#include "Modules/Trash/TrashModel.hpp"
 
 #include <QDateTime>
 #include <QObject>
@@ -24,6 +25,7 @@ class AppModel : public QObject {
     Q_PROPERTY(Preferences* preferences READ preferences CONSTANT)
     Q_PROPERTY(SystemJunkModel* junk READ junk CONSTANT)
     Q_PROPERTY(SpaceLensModel* spaceLens READ spaceLens CONSTANT)
+    Q_PROPERTY(TrashModel* trash READ trash CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
@@ -45,6 +47,7 @@ public:
     Preferences* preferences() const { return settings; }
     SystemJunkModel* junk() const { return junkModel; }
     SpaceLensModel* spaceLens() const { return lens; }
+    TrashModel* trash() const { return trashModel; }
 
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
@@ -60,6 +63,7 @@ private:
     // The channels' models, in the order they are made.
     SystemJunkModel* junkModel;
     SpaceLensModel* lens;
+    TrashModel* trashModel;
     ChannelList* channelList;
 
     Channel currentChannel = Channel::home;

@@ -20,7 +20,8 @@ constexpr std::array<ChannelRow, 8> table{{
     {Channel::apps, QT_TRID_NOOP("channel.apps.short"), QT_TRID_NOOP("channel.apps.title"), placeholder, nullptr},
     {Channel::leftovers, QT_TRID_NOOP("channel.leftovers.short"), QT_TRID_NOOP("channel.leftovers.title"),
      placeholder, nullptr},
-    {Channel::trash, QT_TRID_NOOP("channel.trash.short"), QT_TRID_NOOP("channel.trash.title"), placeholder, nullptr},
+    {Channel::trash, QT_TRID_NOOP("channel.trash.short"), QT_TRID_NOOP("channel.trash.title"),
+     "Modules/Trash/TrashChannel.qml", [](const AppModel& app) -> QObject* { return app.trash(); }},
     {Channel::updates, QT_TRID_NOOP("channel.updates.short"), QT_TRID_NOOP("channel.updates.title"), placeholder,
      nullptr},
 }};
