@@ -3,7 +3,8 @@ import QtQuick
 import Zephrane
 
 // The trash channel: the shared phase screens over the trash model, or the no-access panel while
-// the trash can't be read. It reads the trash each time it appears, and again when access changes.
+// the trash can't be read. It reads the trash each time it appears, when access changes and when
+// the program comes back to the front.
 Item {
     id: root
 
@@ -17,6 +18,15 @@ Item {
     Connections {
         target: FullDiskAccessMonitor
         function onIsGrantedChanged() { root.trash.rescan() }
+    }
+    // Drives are not watched: one plugged in while the program was in the background shows when
+    // it comes back.
+    Connections {
+        target: Qt.application
+        function onStateChanged() {
+            if (Qt.application.state === Qt.ApplicationActive)
+                root.trash.refreshInPlace()
+        }
     }
 
     ModulePhaseView {

@@ -66,6 +66,8 @@ public:
     // The screen appearing: a first read with progress, later ones in place, each spoken.
     Q_INVOKABLE void refreshOnAppearing();
     Q_INVOKABLE void rescan() { refresh(true); }
+    // The program coming back to the front: a drive may have come or gone meanwhile.
+    Q_INVOKABLE void refreshInPlace() { refresh(false); }
     // Empties every bin for good, then reads them again in place. Only from the results.
     QFuture<void> emptyTrash();
     Q_INVOKABLE void startEmptying() { emptyTrash(); }

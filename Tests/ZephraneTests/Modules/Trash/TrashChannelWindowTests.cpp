@@ -18,6 +18,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -40,11 +41,16 @@ void removeFixture() {
     for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
         fs::remove_all(home / top);
     fs::remove_all(trashFolder());
+    fs::remove_all(home / "Volumes");
+}
+
+// A second drive's trash, a fixture folder like the home trash.
+fs::path volumeTrash() {
+    return testHome() / "Volumes/USB STICK" / (".Trash-" + std::to_string(::getuid()));
 }
 
 // An item deleted some weeks ago, beside what the junk channel puts in the trash today.
-void trashedLongAgo(const std::string& name, std::size_t bytes) {
-    const fs::path trash = trashFolder();
+void trashedLongAgo(const std::string& name, std::size_t bytes, const fs::path& trash = trashFolder()) {
     fs::create_directories(trash / "files");
     fs::create_directories(trash / "info");
     std::ofstream(trash / "files" / name) << std::string(bytes, 'x');
@@ -89,6 +95,7 @@ void runTrashChannel(const QString& language) {
     TestSupport::buildJunkHome(testHome());
     trashedLongAgo("Quarterly report.pdf", 300 * 1024);
     trashedLongAgo("old notes.txt", 2000);
+    trashedLongAgo("holiday.mov", 900 * 1024, volumeTrash());
     QmlTestSupport::WarningCollector warnings;
     {
         AppModel model;
@@ -96,8 +103,9 @@ void runTrashChannel(const QString& language) {
         TrashModel& trash = *model.trash();
         junk.setRunningBundleIDs([] { return std::set<std::string>{"com.example.app"}; });
         // The machine's own volumes stay out of it.
-        trash.setBins(CleanerCore::TrashBin(CleanerCore::URL::file(testHome().string())), [] {
-            return std::vector<CleanerCore::TrashBin>{};
+        const CleanerCore::URL home = CleanerCore::URL::file(testHome().string());
+        trash.setBins(CleanerCore::TrashBin(home), [home] {
+            return std::vector{CleanerCore::TrashBin(CleanerCore::URL::file(volumeTrash().string()), home)};
         });
         QQmlApplicationEngine engine;
         QQuickWindow* window = MainWindow::load(engine, model);
@@ -118,7 +126,8 @@ void runTrashChannel(const QString& language) {
         click(window, find(window, "emptyTrashKey"));
         EXPECT_EQ(model.selection(), Channel::trash);
         waitFor([&] { return trash.phase() == ModulePhase::ready && !trash.isReading(); });
-        EXPECT_EQ(trash.itemCount(), junked + 2);
+        EXPECT_EQ(trash.itemCount(), junked + 3);
+        EXPECT_EQ(trash.volumes().size(), 1u);
         EXPECT_EQ(trash.painelPhase(), PainelPhase::results);
         QQuickItem* emptyKey = find(window, "emptyKey");
         ASSERT_NE(emptyKey, nullptr);
@@ -146,9 +155,11 @@ void runTrashChannel(const QString& language) {
         QmlTestSupport::saveScreenshot(*window, shot + "4-success");
         ASSERT_TRUE(trash.outcome());
         EXPECT_TRUE(trash.outcome()->failures.empty());
-        EXPECT_EQ(trash.outcome()->lines.at(0).count, junked + 2);
-        EXPECT_TRUE(fs::is_empty(trashFolder() / "files"));
-        EXPECT_TRUE(fs::is_empty(trashFolder() / "info"));
+        EXPECT_EQ(trash.outcome()->lines.at(0).count, junked + 3);
+        for (const fs::path& bin : {trashFolder(), volumeTrash()}) {
+            EXPECT_TRUE(fs::is_empty(bin / "files")) << bin;
+            EXPECT_TRUE(fs::is_empty(bin / "info")) << bin;
+        }
         EXPECT_EQ(findVisible(window->contentItem(), "emptyTrashKey"), nullptr) << "emptying is for good: no trash to empty after it";
 
         click(window, find(window, "doneKey"));
