@@ -56,6 +56,8 @@ TrashModel::TrashModel(Preferences& preferences, QObject* parent)
     settleTimer->setInterval(250);
     connect(settleTimer, &QTimer::timeout, this, &TrashModel::changedOnDisk);
     connect(watcher, &QFileSystemWatcher::directoryChanged, settleTimer, qOverload<>(&QTimer::start));
+    // The shared screens' scan keys read the way every other read does, never beside one.
+    actions()->scanAction = [this] { rescan(); };
 }
 
 void TrashModel::setBins(TrashBin home, OtherBins othersSource) {

@@ -167,17 +167,21 @@ void runTrashChannel(const QString& language) {
         EXPECT_EQ(trash.painelPhase(), PainelPhase::empty);
         QmlTestSupport::saveScreenshot(*window, shot + "5-empty");
 
-        // Access taken away: the panel says so, and trying again once it is back shows the trash.
+        // What the file manager puts in the trash shows by itself.
         trashedLongAgo("old notes.txt", 2000);
+        waitFor([&] { return trash.itemCount() == 1 && !trash.isReading(); });
+        EXPECT_EQ(trash.painelPhase(), PainelPhase::results);
+
+        // Access taken away: the panel says so, and trying again once it is back shows the trash.
         {
             TestSupport::FaultySystemCalls faulty;
             const std::string denied = (trashFolder() / "files").string();
             faulty.openFault = [denied](const char* name) { return name == denied ? EACCES : 0; };
             const CleanerCore::Platform::ScopedSystemCalls scoped(faulty);
-            waitFor([&] { return !trash.isReading(); });
             trash.rescan();
-            waitFor([&] { return trash.access() == TrashModel::Access::denied && !trash.isReading(); });
+            ASSERT_TRUE(QTest::qWaitFor([&] { return trash.access() == TrashModel::Access::denied; }, 20000));
         }
+        waitFor([&] { return !trash.isReading(); });
         QmlTestSupport::saveScreenshot(*window, shot + "6-no-access");
         click(window, find(window, "retryKey"));
         waitFor([&] { return trash.access() == TrashModel::Access::granted && !trash.isReading(); });

@@ -185,6 +185,8 @@ TEST_F(TrashFixture, ReadsDoNotOverlapAndAChangeOnDiskIsReadWithoutARestart) {
     const QFuture<void> first = model.refresh(false);
     EXPECT_TRUE(model.isReading());
     EXPECT_TRUE(model.refresh(false).isFinished()) << "a read is under way";
+    model.actions()->scan();
+    EXPECT_NE(model.phase(), ModulePhase::scanning) << "the screens' scan key waits for it too";
     finish(first);
     EXPECT_EQ(reads, readsBefore + 1);
     EXPECT_FALSE(model.isReading());
