@@ -71,15 +71,12 @@ TrashModel::Read TrashModel::readBins(const TrashBin& home, const OtherBins& oth
     read.home = home.entries();
     if (!read.home)
         return read; // without the home trash nothing else is shown either
-    const std::string startup = home.volumeName();
-    read.startupName = startup.empty() || startup == "/" ? qtTrId("trash.bins.startup")
-                                                         : QString::fromStdString(startup);
+    read.startupName = home.volumeName();
     read.otherBins = othersSource ? othersSource() : std::vector<TrashBin>{};
     for (const TrashBin& other : read.otherBins) {
         std::optional<std::vector<TrashEntry>> entries = other.entries();
         read.contents.push_back(entries ? std::move(*entries) : std::vector<TrashEntry>{});
-        read.names.push_back(read.contents.back().empty() ? QString()
-                                                          : QString::fromStdString(other.volumeName()));
+        read.names.push_back(read.contents.back().empty() ? std::string() : other.volumeName());
     }
     return read;
 }
@@ -95,12 +92,16 @@ void TrashModel::take(Read read) {
     } else {
         accessState = Access::granted;
         homeEntries = std::move(*read.home);
-        startupVolume = read.startupName;
+        // The root volume without a label has no name worth showing.
+        startupVolume = read.startupName.empty() || read.startupName == "/"
+                            ? qtTrId("trash.bins.startup")
+                            : QString::fromStdString(read.startupName);
         for (std::size_t index = 0; index < allOtherBins.size(); ++index) {
             std::vector<TrashEntry>& entries = read.contents[index];
             if (entries.empty())
                 continue;
-            others.push_back({read.names[index], sizeOf(entries), static_cast<int>(entries.size())});
+            others.push_back({QString::fromStdString(read.names[index]), sizeOf(entries),
+                              static_cast<int>(entries.size())});
             otherContents.emplace_back(allOtherBins[index], std::move(entries));
         }
     }

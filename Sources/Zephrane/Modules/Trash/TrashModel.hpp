@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -100,10 +101,10 @@ private:
     // One read of every bin, made on a worker thread.
     struct Read {
         std::optional<std::vector<CleanerCore::TrashEntry>> home; // nothing: no access
-        QString startupName;
+        std::string startupName; // the home trash's volume
         std::vector<CleanerCore::TrashBin> otherBins;               // all of them, to watch
         std::vector<std::vector<CleanerCore::TrashEntry>> contents; // of each other bin
-        std::vector<QString> names;                                 // of each other bin's volume
+        std::vector<std::string> names;                             // of each other bin's volume
     };
     static Read readBins(const CleanerCore::TrashBin& home, const OtherBins& others);
     void take(Read read);
