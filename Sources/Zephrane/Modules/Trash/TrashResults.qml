@@ -90,9 +90,10 @@ FocusScope {
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
             }
+            // The column headings sit where the rows' texts do.
             Item {
                 id: columns
-                anchors { left: parent.left; right: parent.right; top: listLabel.bottom; margins: 12; topMargin: 8 }
+                anchors { left: parent.left; right: parent.right; top: listLabel.bottom; margins: 8; topMargin: 8 }
                 height: nameHeading.implicitHeight
                 MonoLabel { id: nameHeading; x: 10; text: qsTrId("trash.list.header.name") }
                 MonoLabel {
