@@ -1103,5 +1103,133 @@
         <source>Uninstall %1 with Flatpak?</source>
         <translation>Uninstall %1 with Flatpak?</translation>
     </message>
+    <message id="trash.idle.message">
+        <source>Everything you deleted waits in the Trash, on every drive, until it is emptied. Read it to see how much space it holds.</source>
+        <translation>Everything you deleted waits in the Trash, on every drive, until it is emptied. Read it to see how much space it holds.</translation>
+    </message>
+    <message id="trash.empty.message">
+        <source>Nothing is waiting in the Trash on any drive.</source>
+        <translation>Nothing is waiting in the Trash on any drive.</translation>
+    </message>
+    <message id="trash.noAccess.status">
+        <source>No access</source>
+        <translation>No access</translation>
+    </message>
+    <message id="trash.noAccess.title">
+        <source>The Trash can't be read</source>
+        <translation>The Trash can't be read</translation>
+    </message>
+    <message id="trash.noAccess.body">
+        <source>Zephrane isn't allowed to list your Trash folder. Give it access to your files, then try again; nothing is shown until the Trash can be read.</source>
+        <translation>Zephrane isn't allowed to list your Trash folder. Give it access to your files, then try again; nothing is shown until the Trash can be read.</translation>
+    </message>
+    <message id="trash.noAccess.retry">
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
+    <message id="trash.size">
+        <source>In the Trash</source>
+        <translation>In the Trash</translation>
+    </message>
+    <message id="trash.size.caption">
+        <source>What you deleted still takes up space until the Trash is emptied. You can restore any item from your file manager's Trash until then.</source>
+        <translation>What you deleted still takes up space until the Trash is emptied. You can restore any item from your file manager's Trash until then.</translation>
+    </message>
+    <message id="trash.items.one">
+        <source>%1 item</source>
+        <translation>%1 item</translation>
+    </message>
+    <message id="trash.items.other">
+        <source>%1 items</source>
+        <translation>%1 items</translation>
+    </message>
+    <message id="trash.list">
+        <source>In your Trash</source>
+        <translation>In your Trash</translation>
+    </message>
+    <message id="trash.list.header.name">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="trash.list.header.added">
+        <source>Deleted</source>
+        <translation>Deleted</translation>
+    </message>
+    <message id="trash.list.header.size">
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message id="trash.list.rest">
+        <source>and %1 more</source>
+        <translation>and %1 more</translation>
+    </message>
+    <message id="trash.when.today">
+        <source>today</source>
+        <translation>today</translation>
+    </message>
+    <message id="trash.bins">
+        <source>Trash on each drive</source>
+        <translation>Trash on each drive</translation>
+    </message>
+    <message id="trash.bins.startup">
+        <source>This computer</source>
+        <translation>This computer</translation>
+    </message>
+    <message id="trash.bins.others.note">
+        <source>Each drive keeps its own Trash. Emptying empties them all.</source>
+        <translation>Each drive keeps its own Trash. Emptying empties them all.</translation>
+    </message>
+    <message id="trash.bins.photos">
+        <source>Photo apps keep their own bin</source>
+        <translation>Photo apps keep their own bin</translation>
+    </message>
+    <message id="trash.bins.photos.where">
+        <source>Photos deleted inside a photo app stay in that app's recently deleted album; empty it there.</source>
+        <translation>Photos deleted inside a photo app stay in that app's recently deleted album; empty it there.</translation>
+    </message>
+    <message id="trash.warning.title">
+        <source>Emptying can't be undone</source>
+        <translation>Emptying can't be undone</translation>
+    </message>
+    <message id="trash.warning.body">
+        <source>Every item in the Trash, on every drive, is removed for good. Restore what you want to keep first.</source>
+        <translation>Every item in the Trash, on every drive, is removed for good. Restore what you want to keep first.</translation>
+    </message>
+    <message id="trash.empty.key">
+        <source>Empty Trash</source>
+        <translation>Empty Trash</translation>
+    </message>
+    <message id="trash.empty.hold">
+        <source>Hold the key down to empty the Trash, or press it to confirm in a dialog.</source>
+        <translation>Hold the key down to empty the Trash, or press it to confirm in a dialog.</translation>
+    </message>
+    <message id="trash.empty.confirm.title">
+        <source>Empty the Trash for good?</source>
+        <translation>Empty the Trash for good?</translation>
+    </message>
+    <message id="trash.empty.action">
+        <source>Empty</source>
+        <translation>Empty</translation>
+    </message>
+    <message id="trash.empty.confirm.message">
+        <source>%1 (%2) will be removed for good from the Trash of every drive. This can't be undone.</source>
+        <translation>%1 (%2) will be removed for good from the Trash of every drive. This can't be undone.</translation>
+    </message>
+    <message id="trash.announce.noAccess">
+        <source>The Trash can't be read: no access.</source>
+        <translation>The Trash can't be read: no access.</translation>
+    </message>
+    <message id="trash.announce.empty">
+        <source>The Trash is empty.</source>
+        <translation>The Trash is empty.</translation>
+    </message>
+    <message id="trash.announce.reading">
+        <source>The Trash holds %1, %2.</source>
+        <translation>The Trash holds %1, %2.</translation>
+    </message>
+    <message id="trash.report.line">
+        <source>Trash</source>
+        <translation>Trash</translation>
+    </message>
 </context>
 </TS>

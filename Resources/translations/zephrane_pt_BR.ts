@@ -1103,5 +1103,133 @@
         <source>Uninstall %1 with Flatpak?</source>
         <translation>Desinstalar %1 pelo Flatpak?</translation>
     </message>
+    <message id="trash.idle.message">
+        <source>Everything you deleted waits in the Trash, on every drive, until it is emptied. Read it to see how much space it holds.</source>
+        <translation>Tudo o que você apagou espera na Lixeira, em cada disco, até ser esvaziada. Leia-a para ver quanto espaço ocupa.</translation>
+    </message>
+    <message id="trash.empty.message">
+        <source>Nothing is waiting in the Trash on any drive.</source>
+        <translation>Não há nada na Lixeira em nenhum disco.</translation>
+    </message>
+    <message id="trash.noAccess.status">
+        <source>No access</source>
+        <translation>Sem acesso</translation>
+    </message>
+    <message id="trash.noAccess.title">
+        <source>The Trash can't be read</source>
+        <translation>A Lixeira não pode ser lida</translation>
+    </message>
+    <message id="trash.noAccess.body">
+        <source>Zephrane isn't allowed to list your Trash folder. Give it access to your files, then try again; nothing is shown until the Trash can be read.</source>
+        <translation>O Zephrane não tem permissão para listar a pasta da Lixeira. Dê acesso aos seus arquivos e tente de novo; nada é mostrado até a Lixeira poder ser lida.</translation>
+    </message>
+    <message id="trash.noAccess.retry">
+        <source>Try again</source>
+        <translation>Tentar de novo</translation>
+    </message>
+    <message id="trash.size">
+        <source>In the Trash</source>
+        <translation>Na Lixeira</translation>
+    </message>
+    <message id="trash.size.caption">
+        <source>What you deleted still takes up space until the Trash is emptied. You can restore any item from your file manager's Trash until then.</source>
+        <translation>O que você apagou ainda ocupa espaço até a Lixeira ser esvaziada. Até lá, qualquer item pode ser restaurado pela Lixeira do gerenciador de arquivos.</translation>
+    </message>
+    <message id="trash.items.one">
+        <source>%1 item</source>
+        <translation>%1 item</translation>
+    </message>
+    <message id="trash.items.other">
+        <source>%1 items</source>
+        <translation>%1 itens</translation>
+    </message>
+    <message id="trash.list">
+        <source>In your Trash</source>
+        <translation>Na sua Lixeira</translation>
+    </message>
+    <message id="trash.list.header.name">
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message id="trash.list.header.added">
+        <source>Deleted</source>
+        <translation>Apagado</translation>
+    </message>
+    <message id="trash.list.header.size">
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message id="trash.list.rest">
+        <source>and %1 more</source>
+        <translation>e mais %1</translation>
+    </message>
+    <message id="trash.when.today">
+        <source>today</source>
+        <translation>hoje</translation>
+    </message>
+    <message id="trash.bins">
+        <source>Trash on each drive</source>
+        <translation>Lixeira em cada disco</translation>
+    </message>
+    <message id="trash.bins.startup">
+        <source>This computer</source>
+        <translation>Este computador</translation>
+    </message>
+    <message id="trash.bins.others.note">
+        <source>Each drive keeps its own Trash. Emptying empties them all.</source>
+        <translation>Cada disco tem a sua própria Lixeira. Esvaziar esvazia todas.</translation>
+    </message>
+    <message id="trash.bins.photos">
+        <source>Photo apps keep their own bin</source>
+        <translation>Apps de fotos têm a sua própria lixeira</translation>
+    </message>
+    <message id="trash.bins.photos.where">
+        <source>Photos deleted inside a photo app stay in that app's recently deleted album; empty it there.</source>
+        <translation>Fotos apagadas dentro de um app de fotos ficam no álbum de apagados recentemente desse app; esvazie-o por lá.</translation>
+    </message>
+    <message id="trash.warning.title">
+        <source>Emptying can't be undone</source>
+        <translation>Esvaziar não pode ser desfeito</translation>
+    </message>
+    <message id="trash.warning.body">
+        <source>Every item in the Trash, on every drive, is removed for good. Restore what you want to keep first.</source>
+        <translation>Cada item da Lixeira, em todos os discos, é apagado para sempre. Restaure antes o que quiser manter.</translation>
+    </message>
+    <message id="trash.empty.key">
+        <source>Empty Trash</source>
+        <translation>Esvaziar a Lixeira</translation>
+    </message>
+    <message id="trash.empty.hold">
+        <source>Hold the key down to empty the Trash, or press it to confirm in a dialog.</source>
+        <translation>Mantenha a tecla pressionada para esvaziar a Lixeira, ou pressione-a para confirmar numa caixa de diálogo.</translation>
+    </message>
+    <message id="trash.empty.confirm.title">
+        <source>Empty the Trash for good?</source>
+        <translation>Esvaziar a Lixeira para sempre?</translation>
+    </message>
+    <message id="trash.empty.action">
+        <source>Empty</source>
+        <translation>Esvaziar</translation>
+    </message>
+    <message id="trash.empty.confirm.message">
+        <source>%1 (%2) will be removed for good from the Trash of every drive. This can't be undone.</source>
+        <translation>Sai para sempre da Lixeira de todos os discos: %1 (%2). Isso não pode ser desfeito.</translation>
+    </message>
+    <message id="trash.announce.noAccess">
+        <source>The Trash can't be read: no access.</source>
+        <translation>A Lixeira não pode ser lida: sem acesso.</translation>
+    </message>
+    <message id="trash.announce.empty">
+        <source>The Trash is empty.</source>
+        <translation>A Lixeira está vazia.</translation>
+    </message>
+    <message id="trash.announce.reading">
+        <source>The Trash holds %1, %2.</source>
+        <translation>A Lixeira contém %1, %2.</translation>
+    </message>
+    <message id="trash.report.line">
+        <source>Trash</source>
+        <translation>Lixeira</translation>
+    </message>
 </context>
 </TS>

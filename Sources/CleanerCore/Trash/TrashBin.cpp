@@ -1,6 +1,6 @@
 #include "CleanerCore/Trash/TrashBin.hpp"
 
-#include "CleanerCore/Display/CoreL10n.hpp"
+#include "CleanerCore/Display/NaturalOrder.hpp"
 #include "CleanerCore/Files/DirectoryWalker.hpp"
 #include "CleanerCore/Platform/BulkListing.hpp"
 #include "CleanerCore/Platform/FileDescriptor.hpp"
@@ -13,15 +13,11 @@
 #include "CleanerCore/Trash/TrashDirectorySizes.hpp"
 #include "CleanerCore/Trash/TrashInfo.hpp"
 
-#include <unicode/coll.h>
-#include <unicode/locid.h>
-
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
-#include <memory>
 #include <set>
 #include <string>
 #include <sys/stat.h>
@@ -85,34 +81,12 @@ std::optional<std::chrono::system_clock::time_point> dateAdded(int infoFd, const
     return TrashInfo::deletionDate(std::string_view(text.data(), static_cast<std::size_t>(got)));
 }
 
-// Names as a file browser orders them: digits by value, case and accents only breaking ties.
-class NameOrder {
-public:
-    NameOrder() {
-        UErrorCode status = U_ZERO_ERROR;
-        collator.reset(icu::Collator::createInstance(
-            icu::Locale::forLanguageTag(CoreL10n::currentLanguage(), status), status));
-        if (U_FAILURE(status))
-            collator.reset();
-        if (collator)
-            collator->setAttribute(UCOL_NUMERIC_COLLATION, UCOL_ON, status);
-    }
-
-    bool operator()(std::string_view a, std::string_view b) const {
-        if (!collator)
-            return a < b;
-        UErrorCode status = U_ZERO_ERROR;
-        const UCollationResult result =
-            collator->compareUTF8(icu::StringPiece(a.data(), static_cast<int32_t>(a.size())),
-                                  icu::StringPiece(b.data(), static_cast<int32_t>(b.size())), status);
-        if (U_FAILURE(status) || result == UCOL_EQUAL)
-            return a < b;
-        return result == UCOL_LESS;
-    }
-
-private:
-    std::unique_ptr<icu::Collator> collator;
-};
+// Equal under the collation (say, two names differing only in an ignorable character) still
+// needs one fixed order, so the bytes break the tie.
+bool namedBefore(std::string_view a, std::string_view b) {
+    const int order = NaturalOrder::compare(a, b);
+    return order != 0 ? order < 0 : a < b;
+}
 
 bool isDigits(std::string_view text) {
     return !text.empty() &&
@@ -147,9 +121,8 @@ URL currentHome() {
 }
 
 void sortByPath(std::vector<TrashBin>& bins) {
-    const NameOrder order;
     std::sort(bins.begin(), bins.end(),
-              [&](const TrashBin& a, const TrashBin& b) { return order(a.url.path(), b.url.path()); });
+              [](const TrashBin& a, const TrashBin& b) { return namedBefore(a.url.path(), b.url.path()); });
 }
 
 } // namespace
@@ -184,11 +157,10 @@ std::optional<std::vector<TrashEntry>> TrashBin::entries() const {
     for (const Item& item : *listed)
         named.push_back(
             {{folder.appending(item.name), item.size, dateAdded(info.get(), item.name)}, item.name});
-    const NameOrder order;
-    std::sort(named.begin(), named.end(), [&](const auto& a, const auto& b) {
+    std::sort(named.begin(), named.end(), [](const auto& a, const auto& b) {
         if (a.first.size != b.first.size)
             return a.first.size > b.first.size;
-        return order(a.second, b.second);
+        return namedBefore(a.second, b.second);
     });
     std::vector<TrashEntry> result;
     result.reserve(named.size());

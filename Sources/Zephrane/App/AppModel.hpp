@@ -9,6 +9,7 @@
 #include "Modules/Large/LargeFilesModel.hpp"
 #include "Modules/Leftovers/LeftoversModel.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
+#include "Modules/Trash/TrashModel.hpp"
 
 #include <QDateTime>
 #include <QObject>
@@ -30,6 +31,7 @@ class AppModel : public QObject {
     Q_PROPERTY(LargeFilesModel* large READ large CONSTANT)
     Q_PROPERTY(UninstallerModel* uninstaller READ uninstaller CONSTANT)
     Q_PROPERTY(LeftoversModel* leftovers READ leftovers CONSTANT)
+    Q_PROPERTY(TrashModel* trash READ trash CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
@@ -54,6 +56,7 @@ public:
     LargeFilesModel* large() const { return largeModel; }
     UninstallerModel* uninstaller() const { return appsModel; }
     LeftoversModel* leftovers() const { return leftoversModel; }
+    TrashModel* trash() const { return trashModel; }
 
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
@@ -72,6 +75,7 @@ private:
     LargeFilesModel* largeModel;
     UninstallerModel* appsModel;
     LeftoversModel* leftoversModel;
+    TrashModel* trashModel;
     ChannelList* channelList;
 
     Channel currentChannel = Channel::home;

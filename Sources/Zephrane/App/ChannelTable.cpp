@@ -22,7 +22,8 @@ constexpr std::array<ChannelRow, 8> table{{
      "Modules/Apps/AppsChannel.qml", [](const AppModel& app) -> QObject* { return app.uninstaller(); }},
     {Channel::leftovers, QT_TRID_NOOP("channel.leftovers.short"), QT_TRID_NOOP("channel.leftovers.title"),
      "Modules/Leftovers/LeftoversChannel.qml", [](const AppModel& app) -> QObject* { return app.leftovers(); }},
-    {Channel::trash, QT_TRID_NOOP("channel.trash.short"), QT_TRID_NOOP("channel.trash.title"), placeholder, nullptr},
+    {Channel::trash, QT_TRID_NOOP("channel.trash.short"), QT_TRID_NOOP("channel.trash.title"),
+     "Modules/Trash/TrashChannel.qml", [](const AppModel& app) -> QObject* { return app.trash(); }},
     {Channel::updates, QT_TRID_NOOP("channel.updates.short"), QT_TRID_NOOP("channel.updates.title"), placeholder,
      nullptr},
 }};

@@ -11,6 +11,8 @@ Item {
     property string title
     property string confirmTitle
     property string confirmMessage
+    // The dialog's key; the key's own title when not set.
+    property string confirmAction
     // Seconds the pointer must stay down.
     property real holdDuration: 1.5
     property int size: PainelButtonSize.Regular
@@ -194,8 +196,9 @@ Item {
                     onClicked: dialog.close()
                 }
                 PainelButton {
+                    objectName: "holdDialogConfirm"
                     kind: PainelButtonKind.Accent
-                    text: root.title
+                    text: root.confirmAction.length > 0 ? root.confirmAction : root.title
                     onClicked: controller.confirm()
                 }
             }

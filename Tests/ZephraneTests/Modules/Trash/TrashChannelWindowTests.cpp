@@ -1,0 +1,208 @@
+#include "App/AppModel.hpp"
+#include "App/MainWindow.hpp"
+#include "CleanerCore/Platform/SystemCalls.hpp"
+#include "CleanerCore/Trash/TrashInfo.hpp"
+#include "FaultySystemCalls.hpp"
+#include "JunkHome.hpp"
+#include "Modules/Junk/SystemJunkModel.hpp"
+#include "Modules/Trash/TrashModel.hpp"
+#include "Support/QmlTestSupport.hpp"
+
+#include <QDir>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// The test program's home, which main() made temporary; the fixtures are built right in it.
+fs::path testHome() {
+    const fs::path home = QDir::homePath().toStdString();
+    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
+        std::abort(); // never anywhere near a real home
+    return home;
+}
+
+fs::path trashFolder() {
+    return fs::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
+}
+
+void removeFixture() {
+    const fs::path home = testHome();
+    for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
+        fs::remove_all(home / top);
+    fs::remove_all(trashFolder());
+    fs::remove_all(home / "Volumes");
+}
+
+// A second drive's trash, a fixture folder like the home trash.
+fs::path volumeTrash() {
+    return testHome() / "Volumes/USB STICK" / (".Trash-" + std::to_string(::getuid()));
+}
+
+// An item deleted some weeks ago, beside what the junk channel puts in the trash today.
+void trashedLongAgo(const std::string& name, std::size_t bytes, const fs::path& trash = trashFolder()) {
+    fs::create_directories(trash / "files");
+    fs::create_directories(trash / "info");
+    std::ofstream(trash / "files" / name) << std::string(bytes, 'x');
+    std::ofstream(trash / "info" / CleanerCore::TrashInfo::fileName(name))
+        << "[Trash Info]\nPath=/home/someone/" << name << "\nDeletionDate=2026-01-05T10:00:00\n";
+}
+
+QQuickItem* findVisible(QQuickItem* root, const QString& name) {
+    for (QQuickItem* child : root->childItems()) {
+        if (child->objectName() == name && child->isVisible())
+            return child;
+        if (QQuickItem* found = findVisible(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+QQuickItem* find(QQuickWindow* window, const QString& name) {
+    QQuickItem* item = findVisible(window->contentItem(), name);
+    EXPECT_NE(item, nullptr) << name.toStdString();
+    return item;
+}
+
+QPoint centre(QQuickItem* item) {
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+}
+
+void click(QQuickWindow* window, QQuickItem* item) {
+    ASSERT_NE(item, nullptr);
+    QTest::mouseClick(window, Qt::LeftButton, {}, centre(item));
+}
+
+void waitFor(const std::function<bool()>& condition) {
+    ASSERT_TRUE(QTest::qWaitFor(condition, 20000));
+    QmlTestSupport::settle(120);
+}
+
+// The junk channel's report leads here; the trash it filled is listed, asked about from the
+// keyboard, emptied by holding the key, and reported. A trash that can't be read shows its panel.
+void runTrashChannel(const QString& language) {
+    removeFixture();
+    TestSupport::buildJunkHome(testHome());
+    trashedLongAgo("Quarterly report.pdf", 300 * 1024);
+    trashedLongAgo("old notes.txt", 2000);
+    trashedLongAgo("holiday.mov", 900 * 1024, volumeTrash());
+    QmlTestSupport::WarningCollector warnings;
+    {
+        AppModel model;
+        SystemJunkModel& junk = *model.junk();
+        TrashModel& trash = *model.trash();
+        junk.setRunningBundleIDs([] { return std::set<std::string>{"com.example.app"}; });
+        // The machine's own volumes stay out of it.
+        const CleanerCore::URL home = CleanerCore::URL::file(testHome().string());
+        trash.setBins(CleanerCore::TrashBin(home), [home] {
+            return std::vector{CleanerCore::TrashBin(CleanerCore::URL::file(volumeTrash().string()), home)};
+        });
+        QQmlApplicationEngine engine;
+        QQuickWindow* window = MainWindow::load(engine, model);
+        ASSERT_NE(window, nullptr);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+        const QString shot = QStringLiteral("trash-%1-").arg(language);
+
+        // Junk to the trash, then the report's key.
+        model.open(Channel::junk);
+        QmlTestSupport::settle(120);
+        junk.startScan();
+        waitFor([&] { return junk.phase() == ModulePhase::ready; });
+        junk.clean(CleanerCore::RemovalMode::trash);
+        waitFor([&] { return junk.phase() == ModulePhase::done; });
+        const auto junked = static_cast<int>(junk.lastReport()->removed.size());
+        ASSERT_GT(junked, 0);
+        click(window, find(window, "emptyTrashKey"));
+        EXPECT_EQ(model.selection(), Channel::trash);
+        waitFor([&] { return trash.phase() == ModulePhase::ready && !trash.isReading(); });
+        EXPECT_EQ(trash.itemCount(), junked + 3);
+        EXPECT_EQ(trash.volumes().size(), 1u);
+        EXPECT_EQ(trash.painelPhase(), PainelPhase::results);
+        QQuickItem* emptyKey = find(window, "emptyKey");
+        ASSERT_NE(emptyKey, nullptr);
+        QmlTestSupport::saveScreenshot(*window, shot + "1-results");
+
+        // From the keyboard the key asks first; Escape leaves everything in place.
+        emptyKey->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_Space);
+        QmlTestSupport::settle(300);
+        EXPECT_NE(find(window, "holdDialogConfirm"), nullptr);
+        QmlTestSupport::saveScreenshot(*window, shot + "2-confirm");
+        QTest::keyClick(window, Qt::Key_Escape);
+        QmlTestSupport::settle(300);
+        EXPECT_EQ(trash.phase(), ModulePhase::ready);
+        EXPECT_TRUE(fs::exists(trashFolder() / "files/old notes.txt"));
+
+        // A short press does nothing; a held one empties.
+        const QPoint keyCentre = centre(emptyKey); // the key goes with the results it empties
+        QTest::mousePress(window, Qt::LeftButton, {}, keyCentre);
+        QTest::qWait(500);
+        QmlTestSupport::saveScreenshot(*window, shot + "3-holding");
+        waitFor([&] { return trash.phase() != ModulePhase::ready; });
+        QTest::mouseRelease(window, Qt::LeftButton, {}, keyCentre);
+        waitFor([&] { return trash.phase() == ModulePhase::done && !trash.isReading(); });
+        QmlTestSupport::saveScreenshot(*window, shot + "4-success");
+        ASSERT_TRUE(trash.outcome());
+        EXPECT_TRUE(trash.outcome()->failures.empty());
+        EXPECT_EQ(trash.outcome()->lines.at(0).count, junked + 3);
+        for (const fs::path& bin : {trashFolder(), volumeTrash()}) {
+            EXPECT_TRUE(fs::is_empty(bin / "files")) << bin;
+            EXPECT_TRUE(fs::is_empty(bin / "info")) << bin;
+        }
+        EXPECT_EQ(findVisible(window->contentItem(), "emptyTrashKey"), nullptr) << "emptying is for good: no trash to empty after it";
+
+        click(window, find(window, "doneKey"));
+        QmlTestSupport::settle(120);
+        EXPECT_EQ(trash.painelPhase(), PainelPhase::empty);
+        QmlTestSupport::saveScreenshot(*window, shot + "5-empty");
+
+        // What the file manager puts in the trash shows by itself.
+        trashedLongAgo("old notes.txt", 2000);
+        waitFor([&] { return trash.itemCount() == 1 && !trash.isReading(); });
+        EXPECT_EQ(trash.painelPhase(), PainelPhase::results);
+
+        // Access taken away: the panel says so, and trying again once it is back shows the trash.
+        {
+            TestSupport::FaultySystemCalls faulty;
+            const std::string denied = (trashFolder() / "files").string();
+            faulty.openFault = [denied](const char* name) { return name == denied ? EACCES : 0; };
+            const CleanerCore::Platform::ScopedSystemCalls scoped(faulty);
+            trash.rescan();
+            ASSERT_TRUE(QTest::qWaitFor([&] { return trash.access() == TrashModel::Access::denied; }, 20000));
+        }
+        waitFor([&] { return !trash.isReading(); });
+        QmlTestSupport::saveScreenshot(*window, shot + "6-no-access");
+        click(window, find(window, "retryKey"));
+        waitFor([&] { return trash.access() == TrashModel::Access::granted && !trash.isReading(); });
+        EXPECT_EQ(trash.itemCount(), 1);
+        EXPECT_NE(find(window, "emptyKey"), nullptr);
+        window->close();
+    }
+    const QStringList seen = warnings.take();
+    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    removeFixture();
+}
+
+} // namespace
+
+TEST(TrashChannelWindow, FromTheJunkReportToAnEmptiedTrash) {
+    QmlTestSupport::useLanguage("en");
+    runTrashChannel("en");
+}
+
+TEST(TrashChannelWindow, InPortuguese) {
+    QmlTestSupport::useLanguage("pt-BR");
+    runTrashChannel("pt-BR");
+    QmlTestSupport::useLanguage("en");
+}
