@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QImage>
 #include <QMutex>
+#include <QProcess>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -81,6 +82,58 @@ QQuickItem* findItem(QQuickItem* root, const QString& name, bool visibleOnly) {
 void click(QQuickWindow& window, const QQuickItem& item) {
     const QPointF centre = item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
     QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+}
+
+QQuickItem* find(QQuickWindow* window, const QString& name) {
+    QQuickItem* item = findItem(window->contentItem(), name, true);
+    EXPECT_NE(item, nullptr) << name.toStdString();
+    return item;
+}
+
+void press(QQuickWindow* window, QQuickItem* item) {
+    ASSERT_NE(item, nullptr);
+    click(*window, *item);
+}
+
+void click(QQuickWindow* window, QQuickItem* item) {
+    press(window, item);
+    settle();
+}
+
+void waitFor(const std::function<bool()>& condition, int milliseconds, int settleMilliseconds) {
+    ASSERT_TRUE(QTest::qWaitFor(condition, milliseconds));
+    settle(settleMilliseconds);
+}
+
+std::filesystem::path testHome() {
+    const std::filesystem::path home = QDir::homePath().toStdString();
+    if (home.string().rfind(std::filesystem::temp_directory_path().string(), 0) != 0)
+        std::abort(); // never anywhere near a real home
+    return home;
+}
+
+std::filesystem::path homeTrash() {
+    return std::filesystem::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
+}
+
+void inPortugueseProcess(const std::function<void()>& run) {
+    constexpr const char* childVariable = "ZEPHRANE_TEST_IN_PORTUGUESE";
+    if (qEnvironmentVariableIsSet(childVariable)) {
+        useLanguage("pt-BR");
+        run();
+        useLanguage("en");
+        return;
+    }
+    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(childVariable, "1");
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::MergedChannels);
+    child.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("--gtest_filter=%1.%2").arg(test->test_suite_name(), test->name())});
+    ASSERT_TRUE(child.waitForFinished(300000));
+    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
 }
 
 bool finishes(const QFuture<void>& future, int milliseconds) {

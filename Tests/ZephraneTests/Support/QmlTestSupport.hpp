@@ -6,6 +6,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <filesystem>
+#include <functional>
+
 class QQuickItem;
 class QQuickWindow;
 
@@ -43,6 +46,25 @@ void click(QQuickWindow& window, const QQuickItem& item);
 
 // Whether the future finishes within the time, events running meanwhile.
 bool finishes(const QFuture<void>& future, int milliseconds = 20000);
+
+// Window tests drive the real window by name, the way a user would.
+// The visible item of that name in the window; the test fails when there is none.
+QQuickItem* find(QQuickWindow* window, const QString& name);
+// A click in the middle of the item, with no time for events after it.
+void press(QQuickWindow* window, QQuickItem* item);
+// A click in the middle of the item, then a moment for what it starts.
+void click(QQuickWindow* window, QQuickItem* item);
+// Lets events run until `condition` holds (the test fails if it never does), then lets the window settle.
+void waitFor(const std::function<bool()>& condition, int milliseconds = 20000, int settleMilliseconds = 120);
+
+// The test program's home, which main() made temporary; fixtures are built right in it.
+std::filesystem::path testHome();
+// The freedesktop trash of that home.
+std::filesystem::path homeTrash();
+
+// Runs `run` in Portuguese, in a child process of this test program running only the current
+// test: the engine's texts keep the language of their first use.
+void inPortugueseProcess(const std::function<void()>& run);
 
 // Records what the Announcer says while it lives.
 class AnnouncementLog {

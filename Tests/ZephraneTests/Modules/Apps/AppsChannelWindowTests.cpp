@@ -6,8 +6,6 @@
 #include "Support/QmlTestSupport.hpp"
 #include "TempTree.hpp"
 
-#include <QDir>
-#include <QProcess>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -23,50 +21,17 @@ using TestSupport::FlatpakFixture;
 
 namespace {
 
-constexpr const char* childLanguage = "ZEPHRANE_APPS_WINDOW_LANGUAGE";
+using QmlTestSupport::find;
+using QmlTestSupport::homeTrash;
+using QmlTestSupport::press;
+using QmlTestSupport::testHome;
+using QmlTestSupport::waitFor;
+
 constexpr const char* appID = "org.zephrane.Test.Gone";
-
-fs::path testHome() {
-    const fs::path home = QDir::homePath().toStdString();
-    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
-        std::abort(); // never anywhere near a real home
-    return home;
-}
-
-fs::path trashFolder() {
-    return fs::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
-}
 
 void write(const fs::path& path, std::size_t bytes) {
     fs::create_directories(path.parent_path());
     std::ofstream(path) << std::string(bytes, 'x');
-}
-
-QQuickItem* findVisible(QQuickItem* root, const QString& name) {
-    for (QQuickItem* child : root->childItems()) {
-        if (child->objectName() == name && child->isVisible())
-            return child;
-        if (QQuickItem* found = findVisible(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
-QQuickItem* find(QQuickWindow* window, const QString& name) {
-    QQuickItem* item = findVisible(window->contentItem(), name);
-    EXPECT_NE(item, nullptr) << name.toStdString();
-    return item;
-}
-
-void click(QQuickWindow* window, QQuickItem* item) {
-    ASSERT_NE(item, nullptr);
-    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
-}
-
-void waitFor(const std::function<bool()>& condition) {
-    ASSERT_TRUE(QTest::qWaitFor(condition, 60000));
-    QmlTestSupport::settle(150);
 }
 
 std::string installedUserApps() {
@@ -83,7 +48,7 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
     ASSERT_NE(installedUserApps().find(appID), std::string::npos);
     const fs::path home = testHome();
     write(home / ".var/app" / appID / "config/settings.ini", 2048);
-    fs::remove_all(trashFolder());
+    fs::remove_all(homeTrash());
 
     QmlTestSupport::WarningCollector warnings;
     {
@@ -100,14 +65,14 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
 
         apps.scanOnFirstVisit();
         apps.stop();
-        waitFor([&] { return apps.phase() == ModulePhase::idle; });
+        waitFor([&] { return apps.phase() == ModulePhase::idle; }, 60000, 150);
         model.open(Channel::apps);
         QmlTestSupport::settle(150);
         QmlTestSupport::saveScreenshot(*window, shot + "1-idle");
 
-        click(window, find(window, "scanKey"));
+        press(window, find(window, "scanKey"));
         QmlTestSupport::saveScreenshot(*window, shot + "2-scanning");
-        waitFor([&] { return apps.phase() == ModulePhase::ready; });
+        waitFor([&] { return apps.phase() == ModulePhase::ready; }, 60000, 150);
 
         // Found by its id from the keyboard: type, then Down picks the first match.
         QQuickItem* search = find(window, "searchField");
@@ -133,14 +98,14 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         apps.refreshRunning();
         QmlTestSupport::settle(150);
 
-        click(window, find(window, "uninstallKey"));
+        press(window, find(window, "uninstallKey"));
         QmlTestSupport::settle(150);
         EXPECT_EQ(apps.painelPhase(), PainelPhase::confirm);
         EXPECT_EQ(apps.confirmQuestion(), qtTrId("apps.confirm.question.flatpak").arg("Gone Editor"))
             << "an uninstall is not asked as a move to the trash";
         QmlTestSupport::saveScreenshot(*window, shot + "5-confirm");
-        click(window, find(window, "confirmKey"));
-        waitFor([&] { return apps.phase() == ModulePhase::done; });
+        press(window, find(window, "confirmKey"));
+        waitFor([&] { return apps.phase() == ModulePhase::done; }, 60000, 150);
         QmlTestSupport::saveScreenshot(*window, shot + "6-success");
 
         ASSERT_TRUE(apps.outcome());
@@ -148,9 +113,9 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
             ADD_FAILURE() << failure.url.path() << ": " << failure.reason;
         EXPECT_EQ(installedUserApps().find(appID), std::string::npos) << "flatpak no longer lists it";
         EXPECT_FALSE(fs::exists(home / ".var/app" / appID));
-        EXPECT_TRUE(fs::exists(trashFolder() / "files" / appID / "config/settings.ini"));
+        EXPECT_TRUE(fs::exists(homeTrash() / "files" / appID / "config/settings.ini"));
         EXPECT_EQ(apps.successBody(), qtTrId("apps.success.flatpak.trash"));
-        click(window, find(window, "doneKey"));
+        press(window, find(window, "doneKey"));
         QmlTestSupport::settle(150);
 
         // What two removed apps left behind.
@@ -161,7 +126,7 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         LeftoversModel& leftovers = *model.leftovers();
         model.open(Channel::leftovers);
         const QString leftShot = QStringLiteral("leftovers-%1-").arg(language);
-        waitFor([&] { return leftovers.phase() == ModulePhase::ready; });
+        waitFor([&] { return leftovers.phase() == ModulePhase::ready; }, 60000, 150);
         ASSERT_NE(leftovers.group("org.gone.writer"), nullptr);
         EXPECT_EQ(leftovers.selection()->count(), 0);
 
@@ -170,9 +135,9 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         writer->forceActiveFocus();
         QTest::keyClick(window, Qt::Key_Return);
         QmlTestSupport::settle(150);
-        QQuickItem* firstItem = findVisible(writer, "itemCheck");
+        QQuickItem* firstItem = QmlTestSupport::findItem(writer, "itemCheck", true);
         ASSERT_NE(firstItem, nullptr) << "Return opens the group";
-        click(window, firstItem);
+        press(window, firstItem);
         QmlTestSupport::settle(150);
         EXPECT_TRUE(leftovers.selection()->stateOf(leftovers.group("org.gone.writer")->items).isMixed);
         QmlTestSupport::saveScreenshot(*window, leftShot + "1-mixed");
@@ -182,16 +147,16 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         EXPECT_TRUE(leftovers.selection()->stateOf(leftovers.group("org.gone.writer")->items).isOn);
         QmlTestSupport::saveScreenshot(*window, leftShot + "2-ticked");
 
-        click(window, find(window, "cleanKey"));
+        press(window, find(window, "cleanKey"));
         QmlTestSupport::settle(150);
         EXPECT_EQ(leftovers.painelPhase(), PainelPhase::confirm);
         QmlTestSupport::saveScreenshot(*window, leftShot + "3-confirm");
-        click(window, find(window, "confirmKey"));
-        waitFor([&] { return leftovers.phase() == ModulePhase::done; });
+        press(window, find(window, "confirmKey"));
+        waitFor([&] { return leftovers.phase() == ModulePhase::done; }, 60000, 150);
         QmlTestSupport::saveScreenshot(*window, leftShot + "4-success");
         EXPECT_FALSE(fs::exists(home / ".config/org.gone.Writer"));
         EXPECT_TRUE(fs::exists(home / ".var/app/net.old.Viewer")) << "left unticked";
-        click(window, find(window, "doneKey"));
+        press(window, find(window, "doneKey"));
         QmlTestSupport::settle(150);
         EXPECT_EQ(leftovers.group("org.gone.writer"), nullptr) << "the emptied group is gone";
 
@@ -199,7 +164,7 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         fs::remove_all(home / ".var/app/net.old.Viewer");
         leftovers.setAccessProbe([] { return false; });
         leftovers.startScan();
-        waitFor([&] { return leftovers.phase() == ModulePhase::ready; });
+        waitFor([&] { return leftovers.phase() == ModulePhase::ready; }, 60000, 150);
         EXPECT_EQ(leftovers.painelPhase(), PainelPhase::empty);
         QmlTestSupport::saveScreenshot(*window, leftShot + "5-empty-partial");
         window->close();
@@ -220,21 +185,10 @@ TEST(AppsChannelWindow, UninstallAFlatpakThenClearLeftovers) {
 
 // The engine's texts keep the language of their first use, so Portuguese gets a process of its own.
 TEST(AppsChannelWindow, PortugueseInAProcessOfItsOwn) {
-    if (qEnvironmentVariableIsSet(childLanguage)) {
+    QmlTestSupport::inPortugueseProcess([] {
         FlatpakFixture* fixture = FlatpakFixture::shared();
         if (fixture == nullptr)
             GTEST_SKIP() << FlatpakFixture::unavailable();
-        QmlTestSupport::useLanguage("pt-BR");
         runAppsChannels("pt-BR", *fixture);
-        QmlTestSupport::useLanguage("en");
-        return;
-    }
-    QProcess child;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(childLanguage, "pt-BR");
-    child.setProcessEnvironment(environment);
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=AppsChannelWindow.PortugueseInAProcessOfItsOwn"});
-    ASSERT_TRUE(child.waitForFinished(240000));
-    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+    });
 }

@@ -5,9 +5,7 @@
 #include "Support/QmlTestSupport.hpp"
 #include "TempTree.hpp"
 
-#include <QDir>
 #include <QPointer>
-#include <QProcess>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -21,41 +19,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* childLanguage = "ZEPHRANE_JUNK_WINDOW_LANGUAGE";
-
-// The test program's home, which main() made temporary; the junk fixture is built right in it.
-fs::path testHome() {
-    const fs::path home = QDir::homePath().toStdString();
-    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
-        std::abort(); // never anywhere near a real home
-    return home;
-}
-
-fs::path trashFolder() {
-    return fs::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
-}
+using QmlTestSupport::click;
+using QmlTestSupport::find;
+using QmlTestSupport::homeTrash;
+using QmlTestSupport::press;
+using QmlTestSupport::testHome;
+using QmlTestSupport::waitFor;
 
 void removeFixture() {
     const fs::path home = testHome();
     for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
         fs::remove_all(home / top);
-    fs::remove_all(trashFolder());
-}
-
-QQuickItem* find(QQuickWindow* window, const QString& name) {
-    QQuickItem* item = QmlTestSupport::findItem(window->contentItem(), name, true);
-    EXPECT_NE(item, nullptr) << name.toStdString();
-    return item;
-}
-
-void click(QQuickWindow* window, QQuickItem* item) {
-    ASSERT_NE(item, nullptr);
-    QmlTestSupport::click(*window, *item);
-}
-
-void waitFor(const std::function<bool()>& condition) {
-    ASSERT_TRUE(QTest::qWaitFor(condition, 20000));
-    QmlTestSupport::settle(120);
+    fs::remove_all(homeTrash());
 }
 
 // The whole life of the channel in the real window, photographed at each screen: idle, scanning,
@@ -84,7 +59,7 @@ void runJunkChannel(const QString& language) {
         EXPECT_EQ(junk.phase(), ModulePhase::idle) << "a stopped automatic scan is not made again";
         QmlTestSupport::saveScreenshot(*window, shot + "1-idle");
 
-        click(window, find(window, "scanKey"));
+        press(window, find(window, "scanKey"));
         EXPECT_EQ(junk.phase(), ModulePhase::scanning);
         QmlTestSupport::saveScreenshot(*window, shot + "2-scanning");
         waitFor([&] { return junk.phase() == ModulePhase::ready; });
@@ -114,20 +89,20 @@ void runJunkChannel(const QString& language) {
         QmlTestSupport::settle();
         QmlTestSupport::saveScreenshot(*window, shot + "3-results");
 
-        click(window, find(window, "cleanKey"));
+        press(window, find(window, "cleanKey"));
         QmlTestSupport::settle(120);
         EXPECT_EQ(junk.painelPhase(), PainelPhase::confirm);
         QmlTestSupport::saveScreenshot(*window, shot + "4-confirm");
 
         const std::size_t selected = junk.selectedItems().size();
-        click(window, find(window, "confirmKey"));
+        press(window, find(window, "confirmKey"));
         waitFor([&] { return junk.phase() == ModulePhase::done; });
         QmlTestSupport::saveScreenshot(*window, shot + "5-success");
 
         ASSERT_TRUE(junk.outcome());
         EXPECT_TRUE(junk.outcome()->failures.empty());
         EXPECT_EQ(junk.lastReport()->removed.size(), selected);
-        const fs::path home = testHome(), trash = trashFolder();
+        const fs::path home = testHome(), trash = homeTrash();
         EXPECT_TRUE(fs::exists(trash / "files/com.example.tool"));
         EXPECT_TRUE(fs::exists(trash / "info/com.example.tool.trashinfo"));
         EXPECT_TRUE(fs::exists(trash / "files/Report.PART"));
@@ -140,7 +115,7 @@ void runJunkChannel(const QString& language) {
         EXPECT_TRUE(fs::exists(home / ".npm/_cacache"));
         EXPECT_TRUE(fs::exists(home / ".cache/pip"));
 
-        click(window, find(window, "doneKey"));
+        press(window, find(window, "doneKey"));
         QmlTestSupport::settle(120);
         EXPECT_EQ(junk.painelPhase(), PainelPhase::results);
         QmlTestSupport::saveScreenshot(*window, shot + "6-after");
@@ -159,19 +134,5 @@ TEST(JunkChannelWindow, ScanTrimConfirmCleanToTrashAndReport) {
 
 // The rules' texts keep the language of their first use, so Portuguese gets a process of its own.
 TEST(JunkChannelWindow, PortugueseInAProcessOfItsOwn) {
-    if (qEnvironmentVariableIsSet(childLanguage)) {
-        QmlTestSupport::useLanguage("pt-BR");
-        runJunkChannel("pt-BR");
-        QmlTestSupport::useLanguage("en");
-        return;
-    }
-    QProcess child;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(childLanguage, "pt-BR");
-    child.setProcessEnvironment(environment);
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(QCoreApplication::applicationFilePath(),
-                {"--gtest_filter=JunkChannelWindow.PortugueseInAProcessOfItsOwn"});
-    ASSERT_TRUE(child.waitForFinished(120000));
-    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+        QmlTestSupport::inPortugueseProcess([&] { runJunkChannel("pt-BR"); });
 }

@@ -4,8 +4,6 @@
 #include "Modules/Large/LargeFilesModel.hpp"
 #include "Support/QmlTestSupport.hpp"
 
-#include <QDir>
-#include <QProcess>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -20,58 +18,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* childLanguage = "ZEPHRANE_LARGE_WINDOW_LANGUAGE";
-
-// The test program's home, which main() made temporary; the fixture is built right in it.
-fs::path testHome() {
-    const fs::path home = QDir::homePath().toStdString();
-    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
-        std::abort(); // never anywhere near a real home
-    return home;
-}
-
-fs::path trashFolder() {
-    return fs::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
-}
+using QmlTestSupport::click;
+using QmlTestSupport::find;
+using QmlTestSupport::homeTrash;
+using QmlTestSupport::press;
+using QmlTestSupport::testHome;
+using QmlTestSupport::waitFor;
 
 void removeFixture() {
     const fs::path home = testHome();
     for (const char* top : {"Movies", "Downloads", "Documents", "Library", "Album.photoslibrary", "loose.bin",
                             ".hidden.bin"})
         fs::remove_all(home / top);
-    fs::remove_all(trashFolder());
-}
-
-QQuickItem* findVisible(QQuickItem* root, const QString& name) {
-    for (QQuickItem* child : root->childItems()) {
-        if (child->objectName() == name && child->isVisible())
-            return child;
-        if (QQuickItem* found = findVisible(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
-QQuickItem* find(QQuickWindow* window, const QString& name) {
-    QQuickItem* item = findVisible(window->contentItem(), name);
-    EXPECT_NE(item, nullptr) << name.toStdString();
-    return item;
-}
-
-void press(QQuickWindow* window, QQuickItem* item) {
-    ASSERT_NE(item, nullptr);
-    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
-}
-
-void click(QQuickWindow* window, QQuickItem* item) {
-    press(window, item);
-    QmlTestSupport::settle();
-}
-
-void waitFor(const std::function<bool()>& condition) {
-    ASSERT_TRUE(QTest::qWaitFor(condition, 20000));
-    QmlTestSupport::settle(120);
+    fs::remove_all(homeTrash());
 }
 
 // The channel's whole life in the real window, photographed at each screen: idle, scanning,
@@ -146,7 +105,7 @@ void runLargeChannel(const QString& language) {
         QmlTestSupport::saveScreenshot(*window, shot + "8-success");
         ASSERT_TRUE(large.outcome());
         EXPECT_TRUE(large.outcome()->failures.empty());
-        const fs::path home = testHome(), trash = trashFolder();
+        const fs::path home = testHome(), trash = homeTrash();
         EXPECT_TRUE(fs::exists(trash / "files/holiday.mp4"));
         EXPECT_TRUE(fs::exists(trash / "files/disk.iso"));
         std::ifstream info(trash / "info/disk.iso.trashinfo");
@@ -175,19 +134,5 @@ TEST(LargeChannelWindow, ScanFilterSelectRemoveToTrashAndReport) {
 
 // The engine's texts keep the language of their first use, so Portuguese gets a process of its own.
 TEST(LargeChannelWindow, PortugueseInAProcessOfItsOwn) {
-    if (qEnvironmentVariableIsSet(childLanguage)) {
-        QmlTestSupport::useLanguage("pt-BR");
-        runLargeChannel("pt-BR");
-        QmlTestSupport::useLanguage("en");
-        return;
-    }
-    QProcess child;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(childLanguage, "pt-BR");
-    child.setProcessEnvironment(environment);
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(QCoreApplication::applicationFilePath(),
-                {"--gtest_filter=LargeChannelWindow.PortugueseInAProcessOfItsOwn"});
-    ASSERT_TRUE(child.waitForFinished(120000));
-    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+        QmlTestSupport::inPortugueseProcess([&] { runLargeChannel("pt-BR"); });
 }

@@ -8,7 +8,6 @@
 #include "Modules/Trash/TrashModel.hpp"
 #include "Support/QmlTestSupport.hpp"
 
-#include <QDir>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -24,23 +23,17 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The test program's home, which main() made temporary; the fixtures are built right in it.
-fs::path testHome() {
-    const fs::path home = QDir::homePath().toStdString();
-    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
-        std::abort(); // never anywhere near a real home
-    return home;
-}
-
-fs::path trashFolder() {
-    return fs::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
-}
+using QmlTestSupport::find;
+using QmlTestSupport::homeTrash;
+using QmlTestSupport::press;
+using QmlTestSupport::testHome;
+using QmlTestSupport::waitFor;
 
 void removeFixture() {
     const fs::path home = testHome();
     for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
         fs::remove_all(home / top);
-    fs::remove_all(trashFolder());
+    fs::remove_all(homeTrash());
     fs::remove_all(home / "Volumes");
 }
 
@@ -50,42 +43,12 @@ fs::path volumeTrash() {
 }
 
 // An item deleted some weeks ago, beside what the junk channel puts in the trash today.
-void trashedLongAgo(const std::string& name, std::size_t bytes, const fs::path& trash = trashFolder()) {
+void trashedLongAgo(const std::string& name, std::size_t bytes, const fs::path& trash = homeTrash()) {
     fs::create_directories(trash / "files");
     fs::create_directories(trash / "info");
     std::ofstream(trash / "files" / name) << std::string(bytes, 'x');
     std::ofstream(trash / "info" / CleanerCore::TrashInfo::fileName(name))
         << "[Trash Info]\nPath=/home/someone/" << name << "\nDeletionDate=2026-01-05T10:00:00\n";
-}
-
-QQuickItem* findVisible(QQuickItem* root, const QString& name) {
-    for (QQuickItem* child : root->childItems()) {
-        if (child->objectName() == name && child->isVisible())
-            return child;
-        if (QQuickItem* found = findVisible(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
-QQuickItem* find(QQuickWindow* window, const QString& name) {
-    QQuickItem* item = findVisible(window->contentItem(), name);
-    EXPECT_NE(item, nullptr) << name.toStdString();
-    return item;
-}
-
-QPoint centre(QQuickItem* item) {
-    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
-}
-
-void click(QQuickWindow* window, QQuickItem* item) {
-    ASSERT_NE(item, nullptr);
-    QTest::mouseClick(window, Qt::LeftButton, {}, centre(item));
-}
-
-void waitFor(const std::function<bool()>& condition) {
-    ASSERT_TRUE(QTest::qWaitFor(condition, 20000));
-    QmlTestSupport::settle(120);
 }
 
 // The junk channel's report leads here; the trash it filled is listed, asked about from the
@@ -123,7 +86,7 @@ void runTrashChannel(const QString& language) {
         waitFor([&] { return junk.phase() == ModulePhase::done; });
         const auto junked = static_cast<int>(junk.lastReport()->removed.size());
         ASSERT_GT(junked, 0);
-        click(window, find(window, "emptyTrashKey"));
+        press(window, find(window, "emptyTrashKey"));
         EXPECT_EQ(model.selection(), Channel::trash);
         waitFor([&] { return trash.phase() == ModulePhase::ready && !trash.isReading(); });
         EXPECT_EQ(trash.itemCount(), junked + 3);
@@ -142,10 +105,10 @@ void runTrashChannel(const QString& language) {
         QTest::keyClick(window, Qt::Key_Escape);
         QmlTestSupport::settle(300);
         EXPECT_EQ(trash.phase(), ModulePhase::ready);
-        EXPECT_TRUE(fs::exists(trashFolder() / "files/old notes.txt"));
+        EXPECT_TRUE(fs::exists(homeTrash() / "files/old notes.txt"));
 
         // A short press does nothing; a held one empties.
-        const QPoint keyCentre = centre(emptyKey); // the key goes with the results it empties
+        const QPoint keyCentre = emptyKey->mapToScene(QPointF(emptyKey->width() / 2, emptyKey->height() / 2)).toPoint(); // the key goes with the results it empties
         QTest::mousePress(window, Qt::LeftButton, {}, keyCentre);
         QTest::qWait(500);
         QmlTestSupport::saveScreenshot(*window, shot + "3-holding");
@@ -156,13 +119,13 @@ void runTrashChannel(const QString& language) {
         ASSERT_TRUE(trash.outcome());
         EXPECT_TRUE(trash.outcome()->failures.empty());
         EXPECT_EQ(trash.outcome()->lines.at(0).count, junked + 3);
-        for (const fs::path& bin : {trashFolder(), volumeTrash()}) {
+        for (const fs::path& bin : {homeTrash(), volumeTrash()}) {
             EXPECT_TRUE(fs::is_empty(bin / "files")) << bin;
             EXPECT_TRUE(fs::is_empty(bin / "info")) << bin;
         }
-        EXPECT_EQ(findVisible(window->contentItem(), "emptyTrashKey"), nullptr) << "emptying is for good: no trash to empty after it";
+        EXPECT_EQ(QmlTestSupport::findItem(window->contentItem(), "emptyTrashKey", true), nullptr) << "emptying is for good: no trash to empty after it";
 
-        click(window, find(window, "doneKey"));
+        press(window, find(window, "doneKey"));
         QmlTestSupport::settle(120);
         EXPECT_EQ(trash.painelPhase(), PainelPhase::empty);
         QmlTestSupport::saveScreenshot(*window, shot + "5-empty");
@@ -175,7 +138,7 @@ void runTrashChannel(const QString& language) {
         // Access taken away: the panel says so, and trying again once it is back shows the trash.
         {
             TestSupport::FaultySystemCalls faulty;
-            const std::string denied = (trashFolder() / "files").string();
+            const std::string denied = (homeTrash() / "files").string();
             faulty.openFault = [denied](const char* name) { return name == denied ? EACCES : 0; };
             const CleanerCore::Platform::ScopedSystemCalls scoped(faulty);
             trash.rescan();
@@ -183,7 +146,7 @@ void runTrashChannel(const QString& language) {
         }
         waitFor([&] { return !trash.isReading(); });
         QmlTestSupport::saveScreenshot(*window, shot + "6-no-access");
-        click(window, find(window, "retryKey"));
+        press(window, find(window, "retryKey"));
         waitFor([&] { return trash.access() == TrashModel::Access::granted && !trash.isReading(); });
         EXPECT_EQ(trash.itemCount(), 1);
         EXPECT_NE(find(window, "emptyKey"), nullptr);
