@@ -1,4 +1,5 @@
 #include "CleanerCore/Updates/AppUpdateInstaller.hpp"
+#include "CleanerCore/Updates/SpawnCommandRunner.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
@@ -43,11 +44,14 @@ public:
     fs::path payload; // what the archive holds
     std::map<std::string, CommandResult> answers;
     mutable std::vector<std::string> calls;
+    bool realUnpack = false; // run the unpacking and copying tools themselves
 
     CommandResult run(const std::string& path, const std::vector<std::string>& arguments,
-                      std::chrono::milliseconds) const override {
+                      std::chrono::milliseconds timeout) const override {
         const std::string tool = fs::path(path).filename().string();
         calls.push_back(tool);
+        if (realUnpack && (tool == "bsdtar" || tool == "cp"))
+            return SpawnCommandRunner().run(path, arguments, timeout);
         if (const auto found = answers.find(tool); found != answers.end() && found->second.status != 0)
             return found->second;
         if (tool == "bsdtar")
@@ -114,6 +118,10 @@ struct Fixture {
     // The old app stands as it was; no incoming copy and no job folder are left behind.
     void expectUntouched() const {
         EXPECT_EQ(versionAt(installed()), "1.0");
+        expectNothingLeftOver();
+    }
+
+    void expectNothingLeftOver() const {
         std::vector<std::string> names;
         for (const auto& entry : fs::directory_iterator(tree.path("Applications")))
             names.push_back(entry.path().filename().string());
@@ -187,7 +195,7 @@ TEST(AppUpdateInstaller, SwapsInTheNewVersionAndTrashesTheOldOne) {
     EXPECT_FALSE(fs::exists(fixture.trashed[0].path()));
     EXPECT_THAT(fixture.runner.calls,
                 ElementsAre("bsdtar", "codesign", "spctl", "codesign-team", "codesign-team"));
-    EXPECT_TRUE(fs::is_empty(fixture.tree.path("work")));
+    fixture.expectNothingLeftOver();
 }
 
 TEST(AppUpdateInstaller, UnpacksDiskImagesOnlyWithTheirTool) {
@@ -292,4 +300,24 @@ TEST(AppUpdateInstaller, ReportsAFailingToolByNameAndItsFirstError) {
     } catch (const Failure& failure) {
         EXPECT_EQ(failure, Failure(Kind::commandFailed, "bsdtar: " + std::string(200, 'e')));
     }
+}
+
+TEST(AppUpdateInstaller, UnpacksARealZipKeepingLinksInsideTheBundle) {
+    if (!fs::exists("/usr/bin/bsdtar"))
+        GTEST_SKIP() << "bsdtar is not installed";
+    Fixture fixture;
+    fixture.tree.folder("payload/Foo.app/Contents/Frameworks/A");
+    fixture.tree.symlink("payload/Foo.app/Contents/Frameworks/Current", "A");
+    const auto zipped = SpawnCommandRunner().run(
+        "/usr/bin/bsdtar",
+        {"--format", "zip", "-cf", fixture.tree.path("Foo download").string(), "-C", fixture.runner.payload.string(), "Foo.app"},
+        std::chrono::seconds(30));
+    ASSERT_EQ(zipped.status, 0) << zipped.standardError;
+    fixture.fetcher.archive = fixture.tree.path("Foo download");
+    fixture.runner.realUnpack = true;
+
+    ASSERT_EQ(fixture.install(), std::nullopt);
+    EXPECT_EQ(versionAt(fixture.installed()), "2.0");
+    EXPECT_EQ(fs::read_symlink(fixture.installed() / "Contents/Frameworks/Current"), "A");
+    fixture.expectNothingLeftOver();
 }
