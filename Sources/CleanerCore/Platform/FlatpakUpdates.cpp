@@ -200,7 +200,6 @@ void installFlatpakUpdate(const FlatpakUpdate& update, const std::function<void(
         flatpak_transaction_new_for_installation(installation.get(), nullptr, &error));
     if (!transaction)
         fail(error, "no transaction");
-    flatpak_transaction_set_no_interaction(transaction.get(), TRUE);
     if (!flatpak_transaction_add_update(transaction.get(), refText.c_str(), nullptr, nullptr, &error))
         fail(error, "update refused");
     TransactionStages stages{&progress};
