@@ -83,13 +83,16 @@ AppUpdateInstaller::Tools AppUpdateInstaller::Tools::installed() {
     return tools;
 }
 
-AppUpdateInstaller::FileMoves AppUpdateInstaller::FileMoves::system() { return {copyTree, renameItem}; }
+AppUpdateInstaller::FileMoves AppUpdateInstaller::FileMoves::system() {
+    return {copyTree, renameItem};
+}
 
 AppUpdateInstaller::AppUpdateInstaller(const UpdateFetching& fetcher, const CommandRunning& runner)
     : fetcher(fetcher), runner(runner),
       workFolder(URL::file((fs::temp_directory_path() / "Zephrane-Updates").string())), trash(moveToTrash) {}
 
-void AppUpdateInstaller::install(const AppUpdate& update, const std::function<bool(const std::string&)>& isRunning,
+void AppUpdateInstaller::install(const AppUpdate& update,
+                                 const std::function<bool(const std::string&)>& isRunning,
                                  const std::function<void(Stage)>& progress, std::stop_token stop) const {
     if (!update.canInstallDownload() || !update.downloadURL)
         throw Failure(Kind::noDownload);
@@ -115,7 +118,8 @@ void AppUpdateInstaller::install(const AppUpdate& update, const std::function<bo
     swap(update.appURL, staged, isRunning(*update.bundleID));
 }
 
-std::optional<AppUpdateInstaller::ArchiveKind> AppUpdateInstaller::archiveKind(std::string_view pathExtension) {
+std::optional<AppUpdateInstaller::ArchiveKind>
+AppUpdateInstaller::archiveKind(std::string_view pathExtension) {
     const std::string extension = lowercased(std::string(pathExtension));
     if (extension == "dmg")
         return ArchiveKind::diskImage;

@@ -42,7 +42,9 @@ public:
         explicit Failure(Kind kind, std::string detail = {});
         Kind kind() const { return kind_; }
         const std::string& detail() const { return detail_; }
-        bool operator==(const Failure& other) const { return kind_ == other.kind_ && detail_ == other.detail_; }
+        bool operator==(const Failure& other) const {
+            return kind_ == other.kind_ && detail_ == other.detail_;
+        }
 
     private:
         Kind kind_;
@@ -77,8 +79,8 @@ public:
 
     const UpdateFetching& fetcher;
     const CommandRunning& runner;
-    URL workFolder;        // the temporary folder + "Zephrane-Updates"
-    Trash trash;           // moveToTrash
+    URL workFolder; // the temporary folder + "Zephrane-Updates"
+    Trash trash;    // moveToTrash
     Tools tools = Tools::installed();
     FileMoves moves = FileMoves::system();
 

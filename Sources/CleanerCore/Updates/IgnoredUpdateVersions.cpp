@@ -18,8 +18,8 @@ std::vector<AppUpdate> IgnoredUpdateVersions::visible(const std::vector<AppUpdat
 }
 
 std::size_t IgnoredUpdateVersions::hiddenCount(const std::vector<AppUpdate>& updates) const {
-    return static_cast<std::size_t>(
-        std::count_if(updates.begin(), updates.end(), [this](const AppUpdate& update) { return hides(update); }));
+    return static_cast<std::size_t>(std::count_if(updates.begin(), updates.end(),
+                                                  [this](const AppUpdate& update) { return hides(update); }));
 }
 
 void IgnoredUpdateVersions::restore(const std::vector<AppUpdate>& updates) {

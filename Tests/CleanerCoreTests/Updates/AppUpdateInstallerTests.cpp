@@ -57,9 +57,11 @@ public:
         if (tool == "bsdtar")
             fs::copy(payload, arguments.at(4), fs::copy_options::recursive | fs::copy_options::copy_symlinks);
         else if (tool == "7z")
-            fs::copy(payload, arguments.at(2).substr(2), fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+            fs::copy(payload, arguments.at(2).substr(2),
+                     fs::copy_options::recursive | fs::copy_options::copy_symlinks);
         else if (tool == "cp")
-            fs::copy(arguments.at(2), arguments.at(3), fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+            fs::copy(arguments.at(2), arguments.at(3),
+                     fs::copy_options::recursive | fs::copy_options::copy_symlinks);
         const auto found = answers.find(tool);
         return found == answers.end() ? CommandResult{} : found->second;
     }
@@ -108,7 +110,8 @@ struct Fixture {
 
     std::optional<Kind> install(bool running = false) {
         try {
-            installer.install(update, [&](const std::string&) { return running; }, [](Stage) {});
+            installer.install(
+                update, [&](const std::string&) { return running; }, [](Stage) {});
         } catch (const Failure& failure) {
             return failure.kind();
         }
@@ -141,7 +144,8 @@ TEST(AppUpdateInstaller, TellsArchivesByContentBeforeName) {
     };
     EXPECT_EQ(kindOf("image.zip", image), AppUpdateInstaller::ArchiveKind::diskImage);
     EXPECT_EQ(kindOf("archive", std::string("PK\x03\x04rest", 8)), AppUpdateInstaller::ArchiveKind::zip);
-    EXPECT_EQ(kindOf("small.DMG", "koly"), AppUpdateInstaller::ArchiveKind::diskImage) << "too small: by name";
+    EXPECT_EQ(kindOf("small.DMG", "koly"), AppUpdateInstaller::ArchiveKind::diskImage)
+        << "too small: by name";
     EXPECT_EQ(kindOf("notes.txt", image + "y"), std::nullopt) << "trailer off by one";
     EXPECT_EQ(AppUpdateInstaller::archiveKind(URL::file(tree.path("missing.zip").string())), std::nullopt);
 }
@@ -177,7 +181,8 @@ TEST(AppUpdateInstaller, FindsTheAppAtMostOneFolderDownWithoutFollowingLinks) {
 }
 
 TEST(AppUpdateInstaller, ReadsTheTeamFromCodesignDetails) {
-    EXPECT_EQ(AppUpdateInstaller::teamID("Executable=/x\nTeamIdentifier=\t AB12 \nTeamIdentifier=ZZ\n"), "AB12");
+    EXPECT_EQ(AppUpdateInstaller::teamID("Executable=/x\nTeamIdentifier=\t AB12 \nTeamIdentifier=ZZ\n"),
+              "AB12");
     EXPECT_EQ(AppUpdateInstaller::teamID("TeamIdentifier=not set\n"), std::nullopt);
     EXPECT_EQ(AppUpdateInstaller::teamID("TeamIdentifier=  \n"), std::nullopt);
     EXPECT_EQ(AppUpdateInstaller::teamID(" TeamIdentifier=AB12"), std::nullopt) << "only at a line's start";
@@ -186,8 +191,9 @@ TEST(AppUpdateInstaller, ReadsTheTeamFromCodesignDetails) {
 TEST(AppUpdateInstaller, SwapsInTheNewVersionAndTrashesTheOldOne) {
     Fixture fixture;
     std::vector<Stage> stages;
-    fixture.installer.install(fixture.update, [](const std::string&) { return false; },
-                              [&](Stage stage) { stages.push_back(stage); });
+    fixture.installer.install(
+        fixture.update, [](const std::string&) { return false; },
+        [&](Stage stage) { stages.push_back(stage); });
     EXPECT_THAT(stages, ElementsAre(Stage::downloading, Stage::verifying, Stage::installing));
     EXPECT_EQ(versionAt(fixture.installed()), "2.0");
     ASSERT_EQ(fixture.trashed.size(), 1u);
@@ -231,7 +237,8 @@ TEST(AppUpdateInstaller, EveryFailureLeavesTheInstalledAppUntouched) {
     };
     const auto failOnRename = [](int which) {
         return [which](Fixture& f) {
-            f.installer.moves.rename = [which, count = 0](const std::string& from, const std::string& to) mutable {
+            f.installer.moves.rename = [which, count = 0](const std::string& from,
+                                                          const std::string& to) mutable {
                 if (++count == which)
                     throw std::system_error(EXDEV, std::generic_category());
                 fs::rename(from, to);
@@ -239,24 +246,54 @@ TEST(AppUpdateInstaller, EveryFailureLeavesTheInstalledAppUntouched) {
         };
     };
     const std::vector<Case> cases{
-        {"plain http", [](Fixture& f) { f.update.downloadURL = URL::parse("http://example.org/Foo.zip"); },
-         Kind::noDownload, {}},
-        {"not an archive", [](Fixture& f) { f.fetcher.archive = f.tree.text("Foo.tar", "x"); },
-         Kind::unsupportedArchive, {}},
-        {"unpack fails", [](Fixture& f) { f.runner.answers["bsdtar"] = {1, "", "damaged"}; }, Kind::commandFailed, {}},
-        {"empty archive", [](Fixture& f) { fs::remove_all(f.tree.path("payload/Foo.app")); }, Kind::noAppInArchive, {}},
+        {"plain http",
+         [](Fixture& f) { f.update.downloadURL = URL::parse("http://example.org/Foo.zip"); },
+         Kind::noDownload,
+         {}},
+        {"not an archive",
+         [](Fixture& f) { f.fetcher.archive = f.tree.text("Foo.tar", "x"); },
+         Kind::unsupportedArchive,
+         {}},
+        {"unpack fails",
+         [](Fixture& f) {
+             f.runner.answers["bsdtar"] = {1, "", "damaged"};
+         },
+         Kind::commandFailed,
+         {}},
+        {"empty archive",
+         [](Fixture& f) { fs::remove_all(f.tree.path("payload/Foo.app")); },
+         Kind::noAppInArchive,
+         {}},
         {"another app by that name",
-         [](Fixture& f) { f.tree.text("payload/Foo.app/Contents/Info.plist", infoPlist("org.example.bad", "2.0")); },
-         Kind::bundleIDMismatch, {"bsdtar"}},
+         [](Fixture& f) {
+             f.tree.text("payload/Foo.app/Contents/Info.plist", infoPlist("org.example.bad", "2.0"));
+         },
+         Kind::bundleIDMismatch,
+         {"bsdtar"}},
         {"same version as the feed claims newer",
-         [](Fixture& f) { f.tree.text("payload/Foo.app/Contents/Info.plist", infoPlist("org.example.foo", "1.0")); },
-         Kind::notNewer, {"bsdtar"}},
-        {"bad signature", [](Fixture& f) { f.runner.answers["codesign"] = {1, "", ""}; }, Kind::signatureInvalid,
+         [](Fixture& f) {
+             f.tree.text("payload/Foo.app/Contents/Info.plist", infoPlist("org.example.foo", "1.0"));
+         },
+         Kind::notNewer,
+         {"bsdtar"}},
+        {"bad signature",
+         [](Fixture& f) {
+             f.runner.answers["codesign"] = {1, "", ""};
+         },
+         Kind::signatureInvalid,
          {"bsdtar", "codesign"}},
-        {"not notarized", [](Fixture& f) { f.runner.answers["spctl"] = {3, "", "rejected"}; }, Kind::notNotarized,
+        {"not notarized",
+         [](Fixture& f) {
+             f.runner.answers["spctl"] = {3, "", "rejected"};
+         },
+         Kind::notNotarized,
          {"bsdtar", "codesign", "spctl"}},
-        {"no team", [](Fixture& f) { f.runner.answers["codesign-team"] = {0, "", "TeamIdentifier=not set"}; },
-         Kind::teamMismatch, {}},
+        {"no team",
+         [](Fixture& f) {
+             f.runner.answers["codesign-team"] = {0, "", "TeamIdentifier=not set"};
+         },
+         Kind::teamMismatch,
+         {}},
         {"running", [](Fixture&) {}, Kind::appRunning, {}},
         {"copy fails",
          [](Fixture& f) {
@@ -266,7 +303,8 @@ TEST(AppUpdateInstaller, EveryFailureLeavesTheInstalledAppUntouched) {
                  throw std::system_error(ENOSPC, std::generic_category());
              };
          },
-         Kind::swapFailed, {}},
+         Kind::swapFailed,
+         {}},
         {"moving the old copy aside fails", failOnRename(1), Kind::swapFailed, {}},
         {"moving the new copy in fails", failOnRename(2), Kind::swapFailed, {}},
     };
@@ -308,10 +346,11 @@ TEST(AppUpdateInstaller, UnpacksARealZipKeepingLinksInsideTheBundle) {
     Fixture fixture;
     fixture.tree.folder("payload/Foo.app/Contents/Frameworks/A");
     fixture.tree.symlink("payload/Foo.app/Contents/Frameworks/Current", "A");
-    const auto zipped = SpawnCommandRunner().run(
-        "/usr/bin/bsdtar",
-        {"--format", "zip", "-cf", fixture.tree.path("Foo download").string(), "-C", fixture.runner.payload.string(), "Foo.app"},
-        std::chrono::seconds(30));
+    const auto zipped =
+        SpawnCommandRunner().run("/usr/bin/bsdtar",
+                                 {"--format", "zip", "-cf", fixture.tree.path("Foo download").string(), "-C",
+                                  fixture.runner.payload.string(), "Foo.app"},
+                                 std::chrono::seconds(30));
     ASSERT_EQ(zipped.status, 0) << zipped.standardError;
     fixture.fetcher.archive = fixture.tree.path("Foo download");
     fixture.runner.realUnpack = true;
