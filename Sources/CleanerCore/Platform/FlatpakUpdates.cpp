@@ -134,4 +134,79 @@ std::vector<FlatpakUpdate> flatpakUpdates(bool offline) {
     return updates;
 }
 
+namespace {
+
+struct TransactionStages {
+    const std::function<void(FlatpakUpdateStage)>* progress;
+    bool downloading = false;
+    bool installing = false;
+
+    void reach(FlatpakUpdateStage stage) {
+        bool& reached = stage == FlatpakUpdateStage::downloading ? downloading : installing;
+        if (stage == FlatpakUpdateStage::installing && !downloading)
+            reach(FlatpakUpdateStage::downloading);
+        if (!reached) {
+            reached = true;
+            (*progress)(stage);
+        }
+    }
+};
+
+// The pull reports up to 100 per cent; what follows is the deploy.
+void progressChanged(FlatpakTransactionProgress* progress, gpointer data) {
+    if (flatpak_transaction_progress_get_progress(progress) >= 100)
+        static_cast<TransactionStages*>(data)->reach(FlatpakUpdateStage::installing);
+}
+
+void newOperation(FlatpakTransaction*, FlatpakTransactionOperation*, FlatpakTransactionProgress* progress,
+                  gpointer data) {
+    static_cast<TransactionStages*>(data)->reach(FlatpakUpdateStage::downloading);
+    g_signal_connect(progress, "changed", G_CALLBACK(progressChanged), data);
+}
+
+void operationDone(FlatpakTransaction*, FlatpakTransactionOperation*, const char*, FlatpakTransactionResult,
+                   gpointer data) {
+    static_cast<TransactionStages*>(data)->reach(FlatpakUpdateStage::installing);
+}
+
+[[noreturn]] void fail(GError* error, const char* fallback) {
+    const std::string message = error != nullptr && error->message != nullptr ? error->message : fallback;
+    g_clear_error(&error);
+    throw FlatpakUpdateError(message);
+}
+
+} // namespace
+
+void installFlatpakUpdate(const FlatpakUpdate& update, const std::function<void(FlatpakUpdateStage)>& progress) {
+    GObjectPointer<::FlatpakInstallation> installation;
+    for (auto& opened : openInstallations())
+        if (where(opened.get()) == update.installation) {
+            installation = std::move(opened);
+            break;
+        }
+    if (!installation)
+        throw FlatpakUpdateError("installation not found: " + update.installation.path);
+
+    GError* error = nullptr;
+    const GObjectPointer<FlatpakInstalledRef> installed(flatpak_installation_get_installed_ref(
+        installation.get(), FLATPAK_REF_KIND_APP, update.id.c_str(), nullptr, update.branch.c_str(), nullptr, &error));
+    if (!installed)
+        fail(error, "not installed");
+    char* ref = flatpak_ref_format_ref(FLATPAK_REF(installed.get()));
+    const std::string refText = text(ref);
+    g_free(ref);
+
+    const GObjectPointer<FlatpakTransaction> transaction(
+        flatpak_transaction_new_for_installation(installation.get(), nullptr, &error));
+    if (!transaction)
+        fail(error, "no transaction");
+    if (!flatpak_transaction_add_update(transaction.get(), refText.c_str(), nullptr, nullptr, &error))
+        fail(error, "update refused");
+    TransactionStages stages{&progress};
+    g_signal_connect(transaction.get(), "new-operation", G_CALLBACK(newOperation), &stages);
+    g_signal_connect(transaction.get(), "operation-done", G_CALLBACK(operationDone), &stages);
+    if (!flatpak_transaction_run(transaction.get(), nullptr, &error))
+        fail(error, "update failed");
+}
+
 } // namespace CleanerCore::Platform

@@ -2,7 +2,9 @@
 
 #include "CleanerCore/Platform/InstalledFlatpaks.hpp"
 
+#include <functional>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -28,5 +30,19 @@ struct FlatpakUpdate {
 // installation already holds is read: a cached remote commit, or a newer version in the remote's
 // AppStream data from the last refresh. An unreachable remote means no update, silently.
 std::vector<FlatpakUpdate> flatpakUpdates(bool offline);
+
+enum class FlatpakUpdateStage { downloading, installing };
+
+// libflatpak's own words for why an update transaction did not complete.
+class FlatpakUpdateError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Updates the app to what its remote offers, in one libflatpak transaction of its installation
+// (OSTree checks the remote's signatures when it has them; a system installation may ask for the
+// administrator through polkit). `progress` hears each stage once, in order, from this thread.
+// Throws FlatpakUpdateError.
+void installFlatpakUpdate(const FlatpakUpdate& update, const std::function<void(FlatpakUpdateStage)>& progress);
 
 } // namespace CleanerCore::Platform

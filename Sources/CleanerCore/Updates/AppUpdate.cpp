@@ -70,4 +70,14 @@ bool AppUpdate::canInstallDownload() const {
     return extension == "dmg" || extension == "zip";
 }
 
+AppUpdateAction AppUpdate::action() const {
+    switch (source) {
+    case AppUpdateSource::sparkle: return canInstallDownload() ? AppUpdateAction::install : AppUpdateAction::openApp;
+    case AppUpdateSource::appStore: return AppUpdateAction::openStore;
+    case AppUpdateSource::homebrew: return AppUpdateAction::copyCommand;
+    case AppUpdateSource::flatpak: return AppUpdateAction::install;
+    }
+    return AppUpdateAction::openApp;
+}
+
 } // namespace CleanerCore

@@ -21,6 +21,10 @@ std::string_view rawValue(AppUpdateSource source);
 template <class Enum> std::optional<Enum> fromRaw(std::string_view raw);
 template <> std::optional<AppUpdateSource> fromRaw<AppUpdateSource>(std::string_view raw);
 
+// What a row of an update offers: install it here, open the app (its own updater takes over),
+// open its store page, or copy the package manager's command for the user to run.
+enum class AppUpdateAction { install, openApp, openStore, copyCommand };
+
 // A newer version of one installed application, with where it comes from and what it brings.
 struct AppUpdate {
     URL appURL;
@@ -51,6 +55,8 @@ struct AppUpdate {
     std::optional<std::string> brewCommand() const;
     // Only feed downloads over https of a disk image or zip archive can be installed here.
     bool canInstallDownload() const;
+    // Feed updates install when their download can; Flatpak updates always, by a transaction.
+    AppUpdateAction action() const;
 };
 
 } // namespace CleanerCore

@@ -1,5 +1,6 @@
 #include "CleanerCore/Updates/AppUpdateFinder.hpp"
 #include "CleanerCore/Updates/ConcurrentCompactMap.hpp"
+#include "CleanerCore/Updates/IgnoredUpdateVersions.hpp"
 #include "CleanerCore/Updates/UpdateFetching.hpp"
 #include "TempTree.hpp"
 
@@ -251,4 +252,43 @@ TEST(AppUpdate, DerivesSummaryKeysAndCommandsFromItsFields) {
     EXPECT_FALSE(update.canInstallDownload()) << "only feed downloads are installed here";
     for (const AppUpdateSource source : allAppUpdateSources)
         EXPECT_EQ(fromRaw<AppUpdateSource>(rawValue(source)), source);
+}
+
+TEST(AppUpdate, OffersAnActionBySource) {
+    AppUpdate update;
+    update.downloadURL = URL::parse("https://e.org/Editor.pkg");
+    EXPECT_EQ(update.action(), AppUpdateAction::openApp) << "a package is left to the app's own updater";
+    update.downloadURL = URL::parse("https://e.org/Editor.zip");
+    EXPECT_EQ(update.action(), AppUpdateAction::install);
+    update.source = AppUpdateSource::homebrew;
+    EXPECT_EQ(update.action(), AppUpdateAction::copyCommand) << "even with a download";
+    update.source = AppUpdateSource::appStore;
+    EXPECT_EQ(update.action(), AppUpdateAction::openStore);
+    update.source = AppUpdateSource::flatpak;
+    update.downloadURL.reset();
+    EXPECT_EQ(update.action(), AppUpdateAction::install);
+}
+
+TEST(IgnoredUpdateVersions, HidesOneVersionAndRestoresOnlyWhatIsListed) {
+    const auto offer = [](const char* id, const char* version) {
+        AppUpdate update;
+        update.appURL = URL::file(std::string("/Applications/") + id + ".app");
+        update.bundleID = id;
+        update.newVersion = version;
+        return update;
+    };
+    IgnoredUpdateVersions ignored;
+    ignored.versions["org.gone"] = "9.0"; // an app uninstalled since
+    ignored.ignore(offer("org.editor", "2.0"));
+    const std::vector<AppUpdate> first{offer("org.editor", "2.0"), offer("org.viewer", "1.1")};
+    EXPECT_EQ(ignored.visible(first), std::vector<AppUpdate>{offer("org.viewer", "1.1")});
+    EXPECT_EQ(ignored.hiddenCount(first), 1u);
+
+    const std::vector<AppUpdate> later{offer("org.editor", "2.1"), offer("org.viewer", "1.1")};
+    EXPECT_EQ(ignored.visible(later), later) << "a later version shows again";
+    ignored.restore(later);
+    EXPECT_EQ(ignored.versions.count("org.editor"), 1u) << "nothing of the current list was hidden";
+
+    ignored.restore(first);
+    EXPECT_EQ(ignored.versions, (std::map<std::string, std::string>{{"org.gone", "9.0"}}));
 }

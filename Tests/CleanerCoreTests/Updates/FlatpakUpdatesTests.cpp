@@ -71,3 +71,31 @@ TEST(FlatpakUpdates, OffersTheRemotesNewerCommitWithItsAppStreamVersion) {
     fixture->update(id);
     EXPECT_EQ(findUpdate(Platform::flatpakUpdates(false), id), nullptr) << "updated: nothing left to offer";
 }
+
+TEST(FlatpakUpdates, AnUpdateTransactionDeploysTheOfferedVersion) {
+    FlatpakFixture* fixture = FlatpakFixture::shared();
+    if (fixture == nullptr)
+        GTEST_SKIP() << FlatpakFixture::unavailable();
+    const std::string id = "org.zephrane.Test.Installable";
+    fixture->exportApp({id, "Installable", "1.0"});
+    fixture->install(id);
+    fixture->exportApp({id, "Installable", "2.0"});
+    const auto updates = Platform::flatpakUpdates(false);
+    const auto* update = findUpdate(updates, id);
+    ASSERT_NE(update, nullptr);
+
+    std::vector<Platform::FlatpakUpdateStage> stages;
+    Platform::installFlatpakUpdate(*update, [&](Platform::FlatpakUpdateStage stage) { stages.push_back(stage); });
+    EXPECT_THAT(stages, testing::ElementsAre(Platform::FlatpakUpdateStage::downloading,
+                                             Platform::FlatpakUpdateStage::installing));
+    std::optional<std::string> version;
+    for (const auto& installed : Platform::installedFlatpaks())
+        if (installed.id == id)
+            version = installed.version;
+    EXPECT_EQ(version, "2.0");
+    EXPECT_EQ(findUpdate(Platform::flatpakUpdates(false), id), nullptr);
+
+    fixture->uninstall(id);
+    EXPECT_THROW(Platform::installFlatpakUpdate(*update, [](Platform::FlatpakUpdateStage) {}),
+                 Platform::FlatpakUpdateError);
+}
