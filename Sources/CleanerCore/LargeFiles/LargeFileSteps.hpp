@@ -11,10 +11,11 @@
 // area's folder) and a last one for files in folders that are no area.
 namespace CleanerCore::LargeFileSteps {
 
-inline constexpr std::string_view otherID = "other";
+// No folder name can hold a "/", so a home folder named "other" keeps a step of its own.
+inline constexpr std::string_view otherID = "/";
 
 // The step of `file` below `home`, by standardized path components: the first component below
-// the home when `ids` holds it, else "other" when `ids` holds that. A file directly in the home,
+// the home when `ids` holds it, else `otherID` when `ids` holds it. A file directly in the home,
 // or outside it, counts in no step.
 std::optional<std::string> stepID(const URL& file, const URL& home,
                                   const std::set<std::string, std::less<>>& ids);

@@ -8,11 +8,12 @@ using namespace CleanerCore;
 
 TEST(LargeFileSteps, AFileCountsInItsAreaElseInOtherButNeverDirectlyInTheHome) {
     const URL home = URL::file("/home/ana/");
-    const std::set<std::string, std::less<>> ids{"Movies", "Docs", "other"};
+    const std::set<std::string, std::less<>> ids{"Movies", "Docs", "other", std::string(LargeFileSteps::otherID)};
     const auto step = [&](const char* path) { return LargeFileSteps::stepID(URL::file(path), home, ids); };
     EXPECT_EQ(step("/home/ana/Movies/a.mkv"), "Movies");
     EXPECT_EQ(step("/home/ana/./Docs/x/../y/b.pdf"), "Docs");
-    EXPECT_EQ(step("/home/ana/Elsewhere/c"), "other");
+    EXPECT_EQ(step("/home/ana/Elsewhere/c"), LargeFileSteps::otherID);
+    EXPECT_EQ(step("/home/ana/other/d"), "other") << "a folder named like the last step is an area";
     EXPECT_EQ(step("/home/ana/top.iso"), std::nullopt);
     EXPECT_EQ(step("/home/anabel/Movies/a.mkv"), std::nullopt);
     EXPECT_EQ(LargeFileSteps::stepID(URL::file("/home/ana/Elsewhere/c"), home, {"Movies"}), std::nullopt);

@@ -80,7 +80,7 @@ TEST_F(LargeModel, OneWalkTicksOffATilePerFolderThenOtherFoldersAndNothingStarts
         ids.push_back(step.id.toStdString());
         EXPECT_TRUE(step.state.isDone()) << step.id.toStdString();
     }
-    EXPECT_THAT(ids, ElementsAre("Documents", "Downloads", "Movies", "other"));
+    EXPECT_THAT(ids, ElementsAre("Documents", "Downloads", "Movies", "/"));
     EXPECT_EQ(steps[3].title, qtTrId("large.scan.otherFolders"));
     EXPECT_EQ(steps[0].state.bytes, allocated(tree.path("Documents/report.pdf")));
     EXPECT_EQ(steps[1].state.bytes,
