@@ -24,6 +24,7 @@ class AppModel : public QObject {
     Q_PROPERTY(Preferences* preferences READ preferences CONSTANT)
     Q_PROPERTY(SystemJunkModel* junk READ junk CONSTANT)
     Q_PROPERTY(SpaceLensModel* spaceLens READ spaceLens CONSTANT)
+    Q_PROPERTY(bool trayAvailable READ trayAvailable NOTIFY trayAvailableChanged)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
@@ -46,6 +47,10 @@ public:
     SystemJunkModel* junk() const { return junkModel; }
     SpaceLensModel* spaceLens() const { return lens; }
 
+    // Whether the desktop offers a tray; without one the agent cannot hold the program.
+    bool trayAvailable() const { return hasTray; }
+    void setTrayAvailable(bool available);
+
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
     void setSmartScanStartedAt(const QDateTime& value);
@@ -54,6 +59,7 @@ public:
 signals:
     void selectionChanged();
     void smartScanChanged();
+    void trayAvailableChanged();
 
 private:
     Preferences* settings;
@@ -63,6 +69,7 @@ private:
     ChannelList* channelList;
 
     Channel currentChannel = Channel::home;
+    bool hasTray = false;
     QDateTime scanStarted;
     QDateTime scanFinished;
 };
