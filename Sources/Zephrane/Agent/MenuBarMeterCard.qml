@@ -11,7 +11,7 @@ Rectangle {
     property string spokenName
     property real fraction: -1 // none
 
-    implicitHeight: 72
+    implicitHeight: body.implicitHeight + 20
     radius: 6
     color: PainelTheme.deep
     border.width: 1
@@ -22,8 +22,10 @@ Rectangle {
     Accessible.name: root.spokenName
 
     ColumnLayout {
-        anchors.fill: parent
-        anchors.margins: 10
+        id: body
+        x: 10
+        y: 10
+        width: parent.width - 20
         spacing: 6
 
         Text {
@@ -40,6 +42,8 @@ Rectangle {
             color: PainelTheme.text
             font.family: PainelTheme.sansFamily
             font.pixelSize: 12
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             elide: Text.ElideRight
         }
         LEDMeter {

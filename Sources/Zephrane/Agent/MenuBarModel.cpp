@@ -15,19 +15,19 @@ using namespace CleanerCore;
 namespace {
 
 // The program's own identifier, never offered as a hog.
-const std::optional<std::string> ownID = std::string("zephrane");
+const std::optional<std::string> ownID = std::string("dev.tavrix.zephrane");
 
-MenuBarModel::Sources machineSources() {
-    MenuBarModel::Sources sources;
+} // namespace
+
+MenuBarModel::Sources MenuBarModel::Sources::ofThisMachine() {
+    Sources sources;
     // Without the installed list: a hog needs no bundle path, only its scope's identifier.
     sources.apps = [] { return AppInventory::runningApps({}); };
     sources.footprint = MemoryHogs::footprintOf;
     return sources;
 }
 
-} // namespace
-
-MenuBarModel::MenuBarModel(QObject* parent) : MenuBarModel(machineSources(), parent) {}
+MenuBarModel::MenuBarModel(QObject* parent) : MenuBarModel(Sources::ofThisMachine(), parent) {}
 
 MenuBarModel::MenuBarModel(Sources sources, QObject* parent)
     : QObject(parent), sources(std::move(sources)), current(SystemSampler::summary(this->sources.machine)) {

@@ -52,6 +52,8 @@ public:
         Apps apps;
         CleanerCore::MemoryHogs::Footprint footprint;
         int intervalMilliseconds = 2000;
+
+        static Sources ofThisMachine();
     };
 
     explicit MenuBarModel(QObject* parent = nullptr);

@@ -14,9 +14,10 @@
 #include <QScreen>
 #include <QSystemTrayIcon>
 
-TrayAgent::TrayAgent(AppModel& model, QQmlEngine& engine, QWindow& mainWindow, bool trayAvailable, QObject* parent)
+TrayAgent::TrayAgent(AppModel& model, QQmlEngine& engine, QWindow& mainWindow, bool trayAvailable,
+                     MenuBarModel::Sources sources, QObject* parent)
     : QObject(parent), app(model), engine(engine), mainWindow(mainWindow), trayAvailable(trayAvailable),
-      menuModel(new MenuBarModel(this)) {
+      menuModel(new MenuBarModel(std::move(sources), this)) {
     connect(app.preferences(), &Preferences::showMenuBarAgentChanged, this, &TrayAgent::follow);
     connect(menuModel, &MenuBarModel::snapshotChanged, this, &TrayAgent::updateToolTip);
     follow();

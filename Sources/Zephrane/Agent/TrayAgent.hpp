@@ -25,7 +25,7 @@ class TrayAgent : public QObject {
 
 public:
     TrayAgent(AppModel& model, QQmlEngine& engine, QWindow& mainWindow, bool trayAvailable,
-              QObject* parent = nullptr);
+              MenuBarModel::Sources sources = MenuBarModel::Sources::ofThisMachine(), QObject* parent = nullptr);
     ~TrayAgent() override;
 
     MenuBarModel* menu() const { return menuModel; }

@@ -15,7 +15,7 @@ Window {
     readonly property MenuBarModel menu: agent.menu
     readonly property var junk: appModel.junk
 
-    width: 360
+    width: 400
     height: column.implicitHeight + 32
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     color: PainelTheme.bg
@@ -80,6 +80,7 @@ Window {
                 objectName: "cpuCard"
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
+                Layout.fillHeight: true
                 title: qsTrId("menubar.meter.cpu")
                 valueText: popup.menu.hasRates
                            ? popup.percent(popup.menu.cpuUsage) + " · " + qsTrId("menubar.cpu.cores").arg(popup.menu.cpuCores)
@@ -91,6 +92,7 @@ Window {
             MenuBarMeterCard {
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
+                Layout.fillHeight: true
                 title: qsTrId("menubar.meter.memory")
                 valueText: qsTrId("menubar.memory.detail").arg(ByteFormat.text(popup.menu.memoryUsed))
                                                           .arg(ByteFormat.text(popup.menu.memoryTotal))
@@ -100,6 +102,7 @@ Window {
             MenuBarMeterCard {
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
+                Layout.fillHeight: true
                 title: qsTrId("menubar.meter.disk")
                 valueText: qsTrId("menubar.disk.free").arg(ByteFormat.text(popup.menu.diskFree))
                 fraction: popup.menu.diskUsedFraction
