@@ -33,5 +33,8 @@ int main(int argc, char** argv) {
 
     // Decides whether closing the window quits, and holds the process in the tray when it does not.
     TrayAgent agent(model, engine, *window, model.trayAvailable());
+    // "--background" starts in the tray alone; without a tray to hold it the window shows as usual.
+    if (agent.active() && QCoreApplication::arguments().contains(QStringLiteral("--background")))
+        window->hide();
     return QApplication::exec();
 }
