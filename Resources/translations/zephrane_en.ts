@@ -823,5 +823,9 @@
         <source>Open Zephrane</source>
         <translation>Open Zephrane</translation>
     </message>
+    <message id="menubar.junk.announce.found">
+        <source>Found %1 of junk</source>
+        <translation>Found %1 of junk</translation>
+    </message>
 </context>
 </TS>

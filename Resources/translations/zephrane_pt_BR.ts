@@ -823,5 +823,9 @@
         <source>Open Zephrane</source>
         <translation>Abrir o Zephrane</translation>
     </message>
+    <message id="menubar.junk.announce.found">
+        <source>Found %1 of junk</source>
+        <translation>Encontrados %1 de lixo</translation>
+    </message>
 </context>
 </TS>

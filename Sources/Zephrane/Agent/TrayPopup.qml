@@ -21,7 +21,21 @@ Window {
     color: PainelTheme.bg
     title: qsTrId("menubar.title")
 
-    onActiveChanged: if (!active && visible && Qt.platform.os !== "offscreen") popup.agent.hidePopup()
+    // A popup goes when the user turns elsewhere, as a menu does.
+    onActiveChanged: if (!active && visible) popup.agent.hidePopup()
+
+    // A scan started from here is announced when it finds junk, since its results show elsewhere.
+    property bool scanStartedHere: false
+    Connections {
+        target: popup.junk
+        function onPhaseChanged() {
+            if (popup.junk.phase === "scanning" || !popup.scanStartedHere)
+                return
+            popup.scanStartedHere = false
+            if (popup.junk.phase === "ready" && popup.junk.foundBytes > 0)
+                Announcer.say(qsTrId("menubar.junk.announce.found").arg(ByteFormat.spoken(popup.junk.foundBytes)))
+        }
+    }
 
     function percent(fraction) { return qsTrId("menubar.meter.value").arg(Math.round(fraction * 100)) }
     function rate(bytesPerSecond) { return ByteFormat.text(bytesPerSecond) }
@@ -194,7 +208,14 @@ Window {
                     : phase === "ready" ? qsTrId("menubar.action.rescanJunk")
                     : qsTrId("menubar.action.scanJunk")
                 Accessible.description: hasJunk ? qsTrId("menubar.action.cleanJunk.hint") : ""
-                onClicked: hasJunk ? popup.agent.openJunk() : popup.junk.startScan()
+                onClicked: {
+                    if (hasJunk) {
+                        popup.agent.openJunk()
+                    } else {
+                        popup.scanStartedHere = true
+                        popup.junk.startScan()
+                    }
+                }
             }
             RowLayout {
                 Layout.fillWidth: true

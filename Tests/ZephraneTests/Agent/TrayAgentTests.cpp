@@ -131,3 +131,17 @@ TEST_F(Agent, PopupIsPhotographedInBothLanguagesWithAQuitAsking) {
     }
     QmlTestSupport::useLanguage("en");
 }
+
+TEST_F(Agent, SettingsSayWhyTheSwitchDoesNothingWithoutATray) {
+    auto* settings = window->findChild<QQuickWindow*>("settings");
+    ASSERT_NE(settings, nullptr);
+    settings->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(settings));
+    QQuickItem* note = QmlTestSupport::findItem(settings->contentItem(), "noTrayNote");
+    ASSERT_NE(note, nullptr);
+    model.setTrayAvailable(false);
+    EXPECT_TRUE(note->isVisible());
+    model.setTrayAvailable(true);
+    EXPECT_FALSE(note->isVisible());
+    settings->close();
+}
