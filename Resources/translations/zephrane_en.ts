@@ -752,8 +752,8 @@
         <translation>Charging %1%</translation>
     </message>
     <message id="menubar.hogs.section">
-        <source>Memory</source>
-        <translation>Memory</translation>
+        <source>Top memory users</source>
+        <translation>Top memory users</translation>
     </message>
     <message id="menubar.hogs.title">
         <source>Applications using the most memory</source>

@@ -752,8 +752,8 @@
         <translation>Carregando %1%</translation>
     </message>
     <message id="menubar.hogs.section">
-        <source>Memory</source>
-        <translation>Memória</translation>
+        <source>Top memory users</source>
+        <translation>Maiores usos de memória</translation>
     </message>
     <message id="menubar.hogs.title">
         <source>Applications using the most memory</source>
