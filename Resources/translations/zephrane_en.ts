@@ -1231,5 +1231,157 @@
         <source>Trash</source>
         <translation>Trash</translation>
     </message>
+    <message id="settings.toggle.menuBar.noTray">
+        <source>No system tray was found on this desktop, so closing the window quits the program.</source>
+        <translation>No system tray was found on this desktop, so closing the window quits the program.</translation>
+    </message>
+    <message id="menubar.title">
+        <source>Zephrane monitor</source>
+        <translation>Zephrane monitor</translation>
+    </message>
+    <message id="menubar.item.summary">
+        <source>Zephrane: %1 free on disk</source>
+        <translation>Zephrane: %1 free on disk</translation>
+    </message>
+    <message id="menubar.status.ok">
+        <source>All good</source>
+        <translation>All good</translation>
+    </message>
+    <message id="menubar.status.diskAlmostFull">
+        <source>Disk almost full</source>
+        <translation>Disk almost full</translation>
+    </message>
+    <message id="menubar.meter.cpu">
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message id="menubar.meter.memory">
+        <source>Memory</source>
+        <translation>Memory</translation>
+    </message>
+    <message id="menubar.meter.disk">
+        <source>Disk</source>
+        <translation>Disk</translation>
+    </message>
+    <message id="menubar.meter.value">
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message id="menubar.cpu.cores">
+        <source>%1 cores</source>
+        <translation>%1 cores</translation>
+    </message>
+    <message id="menubar.measuring">
+        <source>Measuring…</source>
+        <translation>Measuring…</translation>
+    </message>
+    <message id="menubar.memory.detail">
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="menubar.disk.free">
+        <source>%1 free</source>
+        <translation>%1 free</translation>
+    </message>
+    <message id="menubar.meter.cpu.a11y">
+        <source>Processor load, %1</source>
+        <translation>Processor load, %1</translation>
+    </message>
+    <message id="menubar.meter.memory.a11y">
+        <source>Memory used, %1</source>
+        <translation>Memory used, %1</translation>
+    </message>
+    <message id="menubar.meter.disk.a11y">
+        <source>Disk used, %1</source>
+        <translation>Disk used, %1</translation>
+    </message>
+    <message id="menubar.network.value">
+        <source>Down %1/s · Up %2/s</source>
+        <translation>Down %1/s · Up %2/s</translation>
+    </message>
+    <message id="menubar.battery.short">
+        <source>Battery %1%</source>
+        <translation>Battery %1%</translation>
+    </message>
+    <message id="menubar.battery.charging">
+        <source>Charging %1%</source>
+        <translation>Charging %1%</translation>
+    </message>
+    <message id="menubar.hogs.section">
+        <source>Top memory users</source>
+        <translation>Top memory users</translation>
+    </message>
+    <message id="menubar.hogs.title">
+        <source>Applications using the most memory</source>
+        <translation>Applications using the most memory</translation>
+    </message>
+    <message id="menubar.hogs.empty">
+        <source>No application to show</source>
+        <translation>No application to show</translation>
+    </message>
+    <message id="menubar.hogs.quit">
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message id="menubar.hogs.quit.a11y">
+        <source>Quit %1</source>
+        <translation>Quit %1</translation>
+    </message>
+    <message id="menubar.hogs.confirm">
+        <source>Quit %1?</source>
+        <translation>Quit %1?</translation>
+    </message>
+    <message id="menubar.hogs.cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="menubar.hogs.confirm.hint">
+        <source>Asks the application to quit; unsaved work may ask first</source>
+        <translation>Asks the application to quit; unsaved work may ask first</translation>
+    </message>
+    <message id="menubar.hogs.announce.quitting">
+        <source>Asking %1 to quit</source>
+        <translation>Asking %1 to quit</translation>
+    </message>
+    <message id="menubar.action.scanning">
+        <source>Scanning…</source>
+        <translation>Scanning…</translation>
+    </message>
+    <message id="menubar.action.cleaning">
+        <source>Cleaning…</source>
+        <translation>Cleaning…</translation>
+    </message>
+    <message id="menubar.action.cleanJunk">
+        <source>Review %1 of junk</source>
+        <translation>Review %1 of junk</translation>
+    </message>
+    <message id="menubar.action.cleanJunk.hint">
+        <source>Opens the junk channel in the window to review it</source>
+        <translation>Opens the junk channel in the window to review it</translation>
+    </message>
+    <message id="menubar.action.rescanJunk">
+        <source>Scan for junk again</source>
+        <translation>Scan for junk again</translation>
+    </message>
+    <message id="menubar.action.scanJunk">
+        <source>Scan for junk</source>
+        <translation>Scan for junk</translation>
+    </message>
+    <message id="menubar.action.emptyTrash">
+        <source>Empty trash</source>
+        <translation>Empty trash</translation>
+    </message>
+    <message id="menubar.action.emptyTrash.hint">
+        <source>Opens the trash channel in the window</source>
+        <translation>Opens the trash channel in the window</translation>
+    </message>
+    <message id="menubar.action.open">
+        <source>Open Zephrane</source>
+        <translation>Open Zephrane</translation>
+    </message>
+    <message id="menubar.junk.announce.found">
+        <source>Found %1 of junk</source>
+        <translation>Found %1 of junk</translation>
+    </message>
 </context>
 </TS>

@@ -1231,5 +1231,157 @@
         <source>Trash</source>
         <translation>Lixeira</translation>
     </message>
+    <message id="settings.toggle.menuBar.noTray">
+        <source>No system tray was found on this desktop, so closing the window quits the program.</source>
+        <translation>Nenhuma bandeja do sistema foi encontrada nesta área de trabalho, então fechar a janela encerra o programa.</translation>
+    </message>
+    <message id="menubar.title">
+        <source>Zephrane monitor</source>
+        <translation>Monitor do Zephrane</translation>
+    </message>
+    <message id="menubar.item.summary">
+        <source>Zephrane: %1 free on disk</source>
+        <translation>Zephrane: %1 livres no disco</translation>
+    </message>
+    <message id="menubar.status.ok">
+        <source>All good</source>
+        <translation>Tudo certo</translation>
+    </message>
+    <message id="menubar.status.diskAlmostFull">
+        <source>Disk almost full</source>
+        <translation>Disco quase cheio</translation>
+    </message>
+    <message id="menubar.meter.cpu">
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message id="menubar.meter.memory">
+        <source>Memory</source>
+        <translation>Memória</translation>
+    </message>
+    <message id="menubar.meter.disk">
+        <source>Disk</source>
+        <translation>Disco</translation>
+    </message>
+    <message id="menubar.meter.value">
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message id="menubar.cpu.cores">
+        <source>%1 cores</source>
+        <translation>%1 núcleos</translation>
+    </message>
+    <message id="menubar.measuring">
+        <source>Measuring…</source>
+        <translation>Medindo…</translation>
+    </message>
+    <message id="menubar.memory.detail">
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message id="menubar.disk.free">
+        <source>%1 free</source>
+        <translation>%1 livres</translation>
+    </message>
+    <message id="menubar.meter.cpu.a11y">
+        <source>Processor load, %1</source>
+        <translation>Carga do processador, %1</translation>
+    </message>
+    <message id="menubar.meter.memory.a11y">
+        <source>Memory used, %1</source>
+        <translation>Memória usada, %1</translation>
+    </message>
+    <message id="menubar.meter.disk.a11y">
+        <source>Disk used, %1</source>
+        <translation>Disco usado, %1</translation>
+    </message>
+    <message id="menubar.network.value">
+        <source>Down %1/s · Up %2/s</source>
+        <translation>Recebe %1/s · Envia %2/s</translation>
+    </message>
+    <message id="menubar.battery.short">
+        <source>Battery %1%</source>
+        <translation>Bateria %1%</translation>
+    </message>
+    <message id="menubar.battery.charging">
+        <source>Charging %1%</source>
+        <translation>Carregando %1%</translation>
+    </message>
+    <message id="menubar.hogs.section">
+        <source>Top memory users</source>
+        <translation>Maiores usos de memória</translation>
+    </message>
+    <message id="menubar.hogs.title">
+        <source>Applications using the most memory</source>
+        <translation>Aplicativos que mais usam memória</translation>
+    </message>
+    <message id="menubar.hogs.empty">
+        <source>No application to show</source>
+        <translation>Nenhum aplicativo para mostrar</translation>
+    </message>
+    <message id="menubar.hogs.quit">
+        <source>Quit</source>
+        <translation>Encerrar</translation>
+    </message>
+    <message id="menubar.hogs.quit.a11y">
+        <source>Quit %1</source>
+        <translation>Encerrar %1</translation>
+    </message>
+    <message id="menubar.hogs.confirm">
+        <source>Quit %1?</source>
+        <translation>Encerrar %1?</translation>
+    </message>
+    <message id="menubar.hogs.cancel">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="menubar.hogs.confirm.hint">
+        <source>Asks the application to quit; unsaved work may ask first</source>
+        <translation>Pede ao aplicativo que encerre; trabalho não salvo pode perguntar antes</translation>
+    </message>
+    <message id="menubar.hogs.announce.quitting">
+        <source>Asking %1 to quit</source>
+        <translation>Pedindo a %1 que encerre</translation>
+    </message>
+    <message id="menubar.action.scanning">
+        <source>Scanning…</source>
+        <translation>Analisando…</translation>
+    </message>
+    <message id="menubar.action.cleaning">
+        <source>Cleaning…</source>
+        <translation>Limpando…</translation>
+    </message>
+    <message id="menubar.action.cleanJunk">
+        <source>Review %1 of junk</source>
+        <translation>Revisar %1 de lixo</translation>
+    </message>
+    <message id="menubar.action.cleanJunk.hint">
+        <source>Opens the junk channel in the window to review it</source>
+        <translation>Abre o canal de lixo na janela para revisá-lo</translation>
+    </message>
+    <message id="menubar.action.rescanJunk">
+        <source>Scan for junk again</source>
+        <translation>Procurar lixo de novo</translation>
+    </message>
+    <message id="menubar.action.scanJunk">
+        <source>Scan for junk</source>
+        <translation>Procurar lixo</translation>
+    </message>
+    <message id="menubar.action.emptyTrash">
+        <source>Empty trash</source>
+        <translation>Esvaziar Lixeira</translation>
+    </message>
+    <message id="menubar.action.emptyTrash.hint">
+        <source>Opens the trash channel in the window</source>
+        <translation>Abre o canal da Lixeira na janela</translation>
+    </message>
+    <message id="menubar.action.open">
+        <source>Open Zephrane</source>
+        <translation>Abrir o Zephrane</translation>
+    </message>
+    <message id="menubar.junk.announce.found">
+        <source>Found %1 of junk</source>
+        <translation>Encontrados %1 de lixo</translation>
+    </message>
 </context>
 </TS>

@@ -37,3 +37,10 @@ void AppModel::setSmartScanFinishedAt(const QDateTime& value) {
     scanFinished = value;
     emit smartScanChanged();
 }
+
+void AppModel::setTrayAvailable(bool available) {
+    if (available == hasTray)
+        return;
+    hasTray = available;
+    emit trayAvailableChanged();
+}

@@ -32,6 +32,7 @@ class AppModel : public QObject {
     Q_PROPERTY(UninstallerModel* uninstaller READ uninstaller CONSTANT)
     Q_PROPERTY(LeftoversModel* leftovers READ leftovers CONSTANT)
     Q_PROPERTY(TrashModel* trash READ trash CONSTANT)
+    Q_PROPERTY(bool trayAvailable READ trayAvailable NOTIFY trayAvailableChanged)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
@@ -58,6 +59,10 @@ public:
     LeftoversModel* leftovers() const { return leftoversModel; }
     TrashModel* trash() const { return trashModel; }
 
+    // Whether the desktop offers a tray; without one the agent cannot hold the program.
+    bool trayAvailable() const { return hasTray; }
+    void setTrayAvailable(bool available);
+
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
     void setSmartScanStartedAt(const QDateTime& value);
@@ -66,6 +71,7 @@ public:
 signals:
     void selectionChanged();
     void smartScanChanged();
+    void trayAvailableChanged();
 
 private:
     Preferences* settings;
@@ -79,6 +85,7 @@ private:
     ChannelList* channelList;
 
     Channel currentChannel = Channel::home;
+    bool hasTray = false;
     QDateTime scanStarted;
     QDateTime scanFinished;
 };

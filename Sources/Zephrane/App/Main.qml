@@ -46,6 +46,7 @@ Window {
         id: settingsView
         visible: false
         preferences: main.appModel.preferences
+        trayAvailable: main.appModel.trayAvailable
         onWelcomeRequested: {
             main.show()
             main.raise()

@@ -1,5 +1,5 @@
+#include "Agent/TrayAgent.hpp"
 #include "App/AppLanguage.hpp"
-#include "App/AppLifecycle.hpp"
 #include "App/AppModel.hpp"
 #include "App/MainWindow.hpp"
 #include "Painel/PainelTheme.hpp"
@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
+#include <QQuickWindow>
 #include <QSystemTrayIcon>
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -24,13 +25,16 @@ int main(int argc, char** argv) {
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 
     AppModel model;
+    model.setTrayAvailable(QSystemTrayIcon::isSystemTrayAvailable());
     QQmlApplicationEngine engine;
-    if (!MainWindow::load(engine, model))
+    QQuickWindow* window = MainWindow::load(engine, model);
+    if (!window)
         return 1;
 
-    // Until the tray agent stands, nothing could hold the process once the window is gone.
-    const bool agentShown = false;
-    QGuiApplication::setQuitOnLastWindowClosed(
-        AppLifecycle::quitsOnLastWindowClosed(agentShown, QSystemTrayIcon::isSystemTrayAvailable()));
+    // Decides whether closing the window quits, and holds the process in the tray when it does not.
+    TrayAgent agent(model, engine, *window, model.trayAvailable());
+    // "--background" starts in the tray alone; without a tray to hold it the window shows as usual.
+    if (agent.active() && QCoreApplication::arguments().contains(QStringLiteral("--background")))
+        window->hide();
     return QApplication::exec();
 }

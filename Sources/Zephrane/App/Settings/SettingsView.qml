@@ -11,6 +11,8 @@ Window {
 
     // The program's one set of preferences: what changes here shows in every channel at once.
     required property Preferences preferences
+    // Without a tray the agent switch has no effect, and the window says so beneath it.
+    property bool trayAvailable: true
     // Asks the program to show the main window, where the welcome runs again.
     signal welcomeRequested
 
@@ -47,6 +49,18 @@ Window {
                     title: qsTrId("settings.toggle.menuBar")
                     checked: root.preferences.showMenuBarAgent
                     onToggled: on => root.preferences.showMenuBarAgent = on
+                }
+                Text {
+                    objectName: "noTrayNote"
+                    Layout.fillWidth: true
+                    visible: !root.trayAvailable
+                    text: qsTrId("settings.toggle.menuBar.noTray")
+                    color: PainelTheme.muted
+                    font.family: PainelTheme.sansFamily
+                    font.pixelSize: 12
+                    wrapMode: Text.WordWrap
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                 }
                 SettingsRule {}
                 SettingsSwitchRow {
