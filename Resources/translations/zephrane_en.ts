@@ -1231,5 +1231,157 @@
         <source>Trash</source>
         <translation>Trash</translation>
     </message>
+    <message id="home.disk.name">
+        <source>System disk</source>
+        <translation>System disk</translation>
+    </message>
+    <message id="home.disk.free">
+        <source>%1 free of %2</source>
+        <translation>%1 free of %2</translation>
+    </message>
+    <message id="home.reading.scanning">
+        <source>Scanning…</source>
+        <translation>Scanning…</translation>
+    </message>
+    <message id="home.reading.found">
+        <source>%1 found</source>
+        <translation>%1 found</translation>
+    </message>
+    <message id="home.reading.nothing">
+        <source>Nothing found</source>
+        <translation>Nothing found</translation>
+    </message>
+    <message id="home.reading.notScanned">
+        <source>Not scanned yet</source>
+        <translation>Not scanned yet</translation>
+    </message>
+    <message id="home.reading.mapped">
+        <source>%1 mapped</source>
+        <translation>%1 mapped</translation>
+    </message>
+    <message id="home.reading.files">
+        <source>Files: %1 · %2</source>
+        <translation>Files: %1 · %2</translation>
+    </message>
+    <message id="home.reading.apps">
+        <source>Apps: %1</source>
+        <translation>Apps: %1</translation>
+    </message>
+    <message id="home.reading.noAccess">
+        <source>No access to the trash</source>
+        <translation>No access to the trash</translation>
+    </message>
+    <message id="home.reading.trash.empty">
+        <source>Empty</source>
+        <translation>Empty</translation>
+    </message>
+    <message id="home.reading.trash">
+        <source>%1 in the trash</source>
+        <translation>%1 in the trash</translation>
+    </message>
+    <message id="home.reading.updates">
+        <source>Updates: %1</source>
+        <translation>Updates: %1</translation>
+    </message>
+    <message id="home.reading.upToDate">
+        <source>Everything up to date</source>
+        <translation>Everything up to date</translation>
+    </message>
+    <message id="home.reading.soon">
+        <source>Coming soon</source>
+        <translation>Coming soon</translation>
+    </message>
+    <message id="home.scan.done">
+        <source>Smart scan finished: %1 found</source>
+        <translation>Smart scan finished: %1 found</translation>
+    </message>
+    <message id="home.scan.done.none">
+        <source>Smart scan finished: nothing to clean</source>
+        <translation>Smart scan finished: nothing to clean</translation>
+    </message>
+    <message id="home.visor.intro">
+        <source>Run a smart scan to see what can be cleaned.</source>
+        <translation>Run a smart scan to see what can be cleaned.</translation>
+    </message>
+    <message id="home.visor.never">
+        <source>No scan yet</source>
+        <translation>No scan yet</translation>
+    </message>
+    <message id="home.visor.scanning">
+        <source>Scanning</source>
+        <translation>Scanning</translation>
+    </message>
+    <message id="home.visor.total">
+        <source>Found</source>
+        <translation>Found</translation>
+    </message>
+    <message id="home.visor.junk">
+        <source>Junk: %1</source>
+        <translation>Junk: %1</translation>
+    </message>
+    <message id="home.visor.scannedAt">
+        <source>Scanned at %1</source>
+        <translation>Scanned at %1</translation>
+    </message>
+    <message id="home.visor.empty">
+        <source>All clean: nothing to remove.</source>
+        <translation>All clean: nothing to remove.</translation>
+    </message>
+    <message id="home.scan.intro">
+        <source>The smart scan looks for junk and for what removed apps left behind, side by side.</source>
+        <translation>The smart scan looks for junk and for what removed apps left behind, side by side.</translation>
+    </message>
+    <message id="home.scan.start">
+        <source>Smart scan</source>
+        <translation>Smart scan</translation>
+    </message>
+    <message id="home.scan.running.body">
+        <source>Looking for junk and leftovers…</source>
+        <translation>Looking for junk and leftovers…</translation>
+    </message>
+    <message id="home.scan.progress">
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+    <message id="home.scan.progress.value">
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="home.step.idle">
+        <source>Waiting</source>
+        <translation>Waiting</translation>
+    </message>
+    <message id="home.step.queued">
+        <source>Queued</source>
+        <translation>Queued</translation>
+    </message>
+    <message id="home.step.running">
+        <source>Scanning</source>
+        <translation>Scanning</translation>
+    </message>
+    <message id="home.step.done">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="home.scan.items">
+        <source>Items: %1</source>
+        <translation>Items: %1</translation>
+    </message>
+    <message id="home.pair">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="home.scan.found.body">
+        <source>Review what was found before anything is removed.</source>
+        <translation>Review what was found before anything is removed.</translation>
+    </message>
+    <message id="home.scan.review">
+        <source>Review</source>
+        <translation>Review</translation>
+    </message>
+    <message id="home.scan.again">
+        <source>Scan again</source>
+        <translation>Scan again</translation>
+    </message>
 </context>
 </TS>

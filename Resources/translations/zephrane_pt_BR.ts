@@ -1231,5 +1231,157 @@
         <source>Trash</source>
         <translation>Lixeira</translation>
     </message>
+    <message id="home.disk.name">
+        <source>System disk</source>
+        <translation>Disco do sistema</translation>
+    </message>
+    <message id="home.disk.free">
+        <source>%1 free of %2</source>
+        <translation>%1 livres de %2</translation>
+    </message>
+    <message id="home.reading.scanning">
+        <source>Scanning…</source>
+        <translation>Analisando…</translation>
+    </message>
+    <message id="home.reading.found">
+        <source>%1 found</source>
+        <translation>%1 encontrados</translation>
+    </message>
+    <message id="home.reading.nothing">
+        <source>Nothing found</source>
+        <translation>Nada encontrado</translation>
+    </message>
+    <message id="home.reading.notScanned">
+        <source>Not scanned yet</source>
+        <translation>Ainda não analisado</translation>
+    </message>
+    <message id="home.reading.mapped">
+        <source>%1 mapped</source>
+        <translation>%1 mapeados</translation>
+    </message>
+    <message id="home.reading.files">
+        <source>Files: %1 · %2</source>
+        <translation>Arquivos: %1 · %2</translation>
+    </message>
+    <message id="home.reading.apps">
+        <source>Apps: %1</source>
+        <translation>Apps: %1</translation>
+    </message>
+    <message id="home.reading.noAccess">
+        <source>No access to the trash</source>
+        <translation>Sem acesso à Lixeira</translation>
+    </message>
+    <message id="home.reading.trash.empty">
+        <source>Empty</source>
+        <translation>Vazia</translation>
+    </message>
+    <message id="home.reading.trash">
+        <source>%1 in the trash</source>
+        <translation>%1 na Lixeira</translation>
+    </message>
+    <message id="home.reading.updates">
+        <source>Updates: %1</source>
+        <translation>Atualizações: %1</translation>
+    </message>
+    <message id="home.reading.upToDate">
+        <source>Everything up to date</source>
+        <translation>Tudo atualizado</translation>
+    </message>
+    <message id="home.reading.soon">
+        <source>Coming soon</source>
+        <translation>Em breve</translation>
+    </message>
+    <message id="home.scan.done">
+        <source>Smart scan finished: %1 found</source>
+        <translation>Análise inteligente concluída: %1 encontrados</translation>
+    </message>
+    <message id="home.scan.done.none">
+        <source>Smart scan finished: nothing to clean</source>
+        <translation>Análise inteligente concluída: nada para limpar</translation>
+    </message>
+    <message id="home.visor.intro">
+        <source>Run a smart scan to see what can be cleaned.</source>
+        <translation>Faça uma análise inteligente para ver o que pode ser limpo.</translation>
+    </message>
+    <message id="home.visor.never">
+        <source>No scan yet</source>
+        <translation>Nenhuma análise ainda</translation>
+    </message>
+    <message id="home.visor.scanning">
+        <source>Scanning</source>
+        <translation>Analisando</translation>
+    </message>
+    <message id="home.visor.total">
+        <source>Found</source>
+        <translation>Encontrado</translation>
+    </message>
+    <message id="home.visor.junk">
+        <source>Junk: %1</source>
+        <translation>Lixo: %1</translation>
+    </message>
+    <message id="home.visor.scannedAt">
+        <source>Scanned at %1</source>
+        <translation>Analisado às %1</translation>
+    </message>
+    <message id="home.visor.empty">
+        <source>All clean: nothing to remove.</source>
+        <translation>Tudo limpo: nada para remover.</translation>
+    </message>
+    <message id="home.scan.intro">
+        <source>The smart scan looks for junk and for what removed apps left behind, side by side.</source>
+        <translation>A análise inteligente procura lixo e o que apps removidos deixaram para trás, ao mesmo tempo.</translation>
+    </message>
+    <message id="home.scan.start">
+        <source>Smart scan</source>
+        <translation>Análise inteligente</translation>
+    </message>
+    <message id="home.scan.running.body">
+        <source>Looking for junk and leftovers…</source>
+        <translation>Procurando lixo e restos…</translation>
+    </message>
+    <message id="home.scan.progress">
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message id="home.scan.progress.value">
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message id="home.step.idle">
+        <source>Waiting</source>
+        <translation>Aguardando</translation>
+    </message>
+    <message id="home.step.queued">
+        <source>Queued</source>
+        <translation>Na fila</translation>
+    </message>
+    <message id="home.step.running">
+        <source>Scanning</source>
+        <translation>Analisando</translation>
+    </message>
+    <message id="home.step.done">
+        <source>Done</source>
+        <translation>Pronto</translation>
+    </message>
+    <message id="home.scan.items">
+        <source>Items: %1</source>
+        <translation>Itens: %1</translation>
+    </message>
+    <message id="home.pair">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="home.scan.found.body">
+        <source>Review what was found before anything is removed.</source>
+        <translation>Revise o que foi encontrado antes de remover qualquer coisa.</translation>
+    </message>
+    <message id="home.scan.review">
+        <source>Review</source>
+        <translation>Revisar</translation>
+    </message>
+    <message id="home.scan.again">
+        <source>Scan again</source>
+        <translation>Analisar de novo</translation>
+    </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
 #include "App/ChannelList.hpp"
 #include "App/Preferences.hpp"
 #include "Modules/Apps/UninstallerModel.hpp"
+#include "Modules/Home/HomeModel.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
 #include "Modules/Large/LargeFilesModel.hpp"
 #include "Modules/Leftovers/LeftoversModel.hpp"
@@ -12,6 +13,7 @@
 #include "Modules/Trash/TrashModel.hpp"
 
 #include <QDateTime>
+#include <QFuture>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -34,6 +36,8 @@ class AppModel : public QObject {
     Q_PROPERTY(TrashModel* trash READ trash CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
+    Q_PROPERTY(bool isSmartScanning READ isSmartScanning NOTIFY smartScanningChanged)
+    Q_PROPERTY(HomeModel* home READ home CONSTANT)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
                    smartScanChanged)
 
@@ -58,6 +62,16 @@ public:
     LeftoversModel* leftovers() const { return leftoversModel; }
     TrashModel* trash() const { return trashModel; }
 
+    HomeModel* home() const { return homeModel; }
+
+    // Scans the junk and the leftovers side by side; the future ends when both have. A second call
+    // while one runs returns at once, and a model already busy is not waited for.
+    QFuture<void> smartScan();
+    Q_INVOKABLE void startSmartScan() { smartScan(); }
+    bool isSmartScanning() const { return scanStarted.isValid(); }
+    // Whether the running smart scan has heard back from the channel's model (junk or leftovers).
+    bool smartScanReported(Channel channel) const;
+
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
     void setSmartScanStartedAt(const QDateTime& value);
@@ -66,6 +80,7 @@ public:
 signals:
     void selectionChanged();
     void smartScanChanged();
+    void smartScanningChanged();
 
 private:
     Preferences* settings;
@@ -77,8 +92,11 @@ private:
     LeftoversModel* leftoversModel;
     TrashModel* trashModel;
     ChannelList* channelList;
+    HomeModel* homeModel;
 
     Channel currentChannel = Channel::home;
     QDateTime scanStarted;
     QDateTime scanFinished;
+    bool junkReported = false;
+    bool leftoversReported = false;
 };
