@@ -7,6 +7,7 @@
 #include "Support/QmlTestSupport.hpp"
 
 #include <QDir>
+#include <QProcess>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -78,12 +79,16 @@ TEST(OnboardingFlow, StepsWalkInOrderAndEachMoveIsAnnounced) {
     Announcer::installSink(previous);
 }
 
+namespace {
+
+constexpr const char* childLanguage = "ZEPHRANE_ONBOARDING_WINDOW_LANGUAGE";
+
 // The whole first run by keyboard alone, in the real window, down to the first smart scan's results;
 // then the welcome is reopened and finished without a scan.
-TEST(OnboardingWindow, WalkedByKeyboardToTheFirstSmartScan) {
+void walkOnboarding(const QString& language) {
     removeFixture();
     TestSupport::buildJunkHome(testHome());
-    QmlTestSupport::useLanguage("en");
+    QmlTestSupport::useLanguage(language);
     FullDiskAccessMonitor::shared().refresh();
     QmlTestSupport::WarningCollector warnings;
     {
@@ -98,7 +103,7 @@ TEST(OnboardingWindow, WalkedByKeyboardToTheFirstSmartScan) {
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         QmlTestSupport::settle(120);
-        const QString shot = QStringLiteral("onboarding-en-");
+        const QString shot = QStringLiteral("onboarding-%1-").arg(language);
 
         EXPECT_TRUE(shown(window, "powerKey"));
         QmlTestSupport::saveScreenshot(*window, shot + "1-power");
@@ -157,4 +162,28 @@ TEST(OnboardingWindow, WalkedByKeyboardToTheFirstSmartScan) {
     QSettings().setValue(Preferences::onboardingDoneKey, true);
     warnings.expectNone();
     removeFixture();
+}
+
+} // namespace
+
+TEST(OnboardingWindow, WalkedByKeyboardToTheFirstSmartScan) {
+    walkOnboarding("en");
+}
+
+// The junk rules keep the language of their first use, so Portuguese gets a process of its own.
+TEST(OnboardingWindow, PortugueseInAProcessOfItsOwn) {
+    if (qEnvironmentVariableIsSet(childLanguage)) {
+        walkOnboarding("pt-BR");
+        QmlTestSupport::useLanguage("en");
+        return;
+    }
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(childLanguage, "pt-BR");
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::MergedChannels);
+    child.start(QCoreApplication::applicationFilePath(),
+                {"--gtest_filter=OnboardingWindow.PortugueseInAProcessOfItsOwn"});
+    ASSERT_TRUE(child.waitForFinished(120000));
+    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
 }
