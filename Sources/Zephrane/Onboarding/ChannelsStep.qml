@@ -12,6 +12,11 @@ FocusScope {
         qsTrId("onboarding.channels.leftovers"), qsTrId("onboarding.channels.trash"),
         qsTrId("onboarding.channels.updates")
     ]
+    readonly property var names: [
+        qsTrId("channel.home.short"), qsTrId("channel.junk.short"), qsTrId("channel.lens.short"),
+        qsTrId("channel.large.short"), qsTrId("channel.apps.short"), qsTrId("channel.leftovers.short"),
+        qsTrId("channel.trash.short"), qsTrId("channel.updates.short")
+    ]
     property int litCount: PainelTheme.reducedMotion ? texts.length : 0
 
     Timer {
@@ -53,7 +58,7 @@ FocusScope {
                         anchors.fill: parent
                         anchors.margins: 10
                         spacing: 4
-                        MonoLabel { text: root.flow ? qsTrId(["channel.home.short", "channel.junk.short", "channel.lens.short", "channel.large.short", "channel.apps.short", "channel.leftovers.short", "channel.trash.short", "channel.updates.short"][card.index]) : ""; tone: MonoLabel.Accent }
+                        MonoLabel { text: root.names[card.index]; tone: MonoLabel.Accent }
                         Text {
                             width: parent.width
                             text: root.texts[card.index]
