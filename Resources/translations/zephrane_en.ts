@@ -1383,5 +1383,441 @@
         <source>Found %1 of junk</source>
         <translation>Found %1 of junk</translation>
     </message>
+    <message id="home.disk.name">
+        <source>System disk</source>
+        <translation>System disk</translation>
+    </message>
+    <message id="home.disk.free">
+        <source>%1 free of %2</source>
+        <translation>%1 free of %2</translation>
+    </message>
+    <message id="home.reading.scanning">
+        <source>Scanning…</source>
+        <translation>Scanning…</translation>
+    </message>
+    <message id="home.reading.found">
+        <source>%1 found</source>
+        <translation>%1 found</translation>
+    </message>
+    <message id="home.reading.nothing">
+        <source>Nothing found</source>
+        <translation>Nothing found</translation>
+    </message>
+    <message id="home.reading.notScanned">
+        <source>Not scanned yet</source>
+        <translation>Not scanned yet</translation>
+    </message>
+    <message id="home.reading.mapped">
+        <source>%1 mapped</source>
+        <translation>%1 mapped</translation>
+    </message>
+    <message id="home.reading.files">
+        <source>Files: %1 · %2</source>
+        <translation>Files: %1 · %2</translation>
+    </message>
+    <message id="home.reading.apps">
+        <source>Apps: %1</source>
+        <translation>Apps: %1</translation>
+    </message>
+    <message id="home.reading.noAccess">
+        <source>No access to the trash</source>
+        <translation>No access to the trash</translation>
+    </message>
+    <message id="home.reading.trash.empty">
+        <source>Empty</source>
+        <translation>Empty</translation>
+    </message>
+    <message id="home.reading.trash">
+        <source>%1 in the trash</source>
+        <translation>%1 in the trash</translation>
+    </message>
+    <message id="home.reading.updates">
+        <source>Updates: %1</source>
+        <translation>Updates: %1</translation>
+    </message>
+    <message id="home.reading.upToDate">
+        <source>Everything up to date</source>
+        <translation>Everything up to date</translation>
+    </message>
+    <message id="home.reading.soon">
+        <source>Coming soon</source>
+        <translation>Coming soon</translation>
+    </message>
+    <message id="home.scan.done">
+        <source>Smart scan finished: %1 found</source>
+        <translation>Smart scan finished: %1 found</translation>
+    </message>
+    <message id="home.scan.done.none">
+        <source>Smart scan finished: nothing to clean</source>
+        <translation>Smart scan finished: nothing to clean</translation>
+    </message>
+    <message id="home.visor.intro">
+        <source>Run a smart scan to see what can be cleaned.</source>
+        <translation>Run a smart scan to see what can be cleaned.</translation>
+    </message>
+    <message id="home.visor.never">
+        <source>No scan yet</source>
+        <translation>No scan yet</translation>
+    </message>
+    <message id="home.visor.scanning">
+        <source>Scanning</source>
+        <translation>Scanning</translation>
+    </message>
+    <message id="home.visor.total">
+        <source>Found</source>
+        <translation>Found</translation>
+    </message>
+    <message id="home.visor.junk">
+        <source>Junk: %1</source>
+        <translation>Junk: %1</translation>
+    </message>
+    <message id="home.visor.scannedAt">
+        <source>Scanned at %1</source>
+        <translation>Scanned at %1</translation>
+    </message>
+    <message id="home.visor.empty">
+        <source>All clean: nothing to remove.</source>
+        <translation>All clean: nothing to remove.</translation>
+    </message>
+    <message id="home.scan.intro">
+        <source>The smart scan looks for junk and for what removed apps left behind, side by side.</source>
+        <translation>The smart scan looks for junk and for what removed apps left behind, side by side.</translation>
+    </message>
+    <message id="home.scan.start">
+        <source>Smart scan</source>
+        <translation>Smart scan</translation>
+    </message>
+    <message id="home.scan.running.body">
+        <source>Looking for junk and leftovers…</source>
+        <translation>Looking for junk and leftovers…</translation>
+    </message>
+    <message id="home.scan.progress">
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+    <message id="home.scan.progress.value">
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="home.step.idle">
+        <source>Waiting</source>
+        <translation>Waiting</translation>
+    </message>
+    <message id="home.step.queued">
+        <source>Queued</source>
+        <translation>Queued</translation>
+    </message>
+    <message id="home.step.running">
+        <source>Scanning</source>
+        <translation>Scanning</translation>
+    </message>
+    <message id="home.step.done">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="home.scan.items">
+        <source>Items: %1</source>
+        <translation>Items: %1</translation>
+    </message>
+    <message id="home.pair">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="home.scan.found.body">
+        <source>Review what was found before anything is removed.</source>
+        <translation>Review what was found before anything is removed.</translation>
+    </message>
+    <message id="home.scan.review">
+        <source>Review</source>
+        <translation>Review</translation>
+    </message>
+    <message id="home.scan.again">
+        <source>Scan again</source>
+        <translation>Scan again</translation>
+    </message>
+    <message id="onboarding.power.a11yTitle">
+        <source>Power</source>
+        <translation>Power</translation>
+    </message>
+    <message id="onboarding.channels.a11yTitle">
+        <source>The channels</source>
+        <translation>The channels</translation>
+    </message>
+    <message id="onboarding.disk.title">
+        <source>Disk access</source>
+        <translation>Disk access</translation>
+    </message>
+    <message id="onboarding.preferences.a11yTitle">
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="onboarding.ready.a11yTitle">
+        <source>Ready</source>
+        <translation>Ready</translation>
+    </message>
+    <message id="onboarding.channels.section">
+        <source>Channels</source>
+        <translation>Channels</translation>
+    </message>
+    <message id="onboarding.disk.section">
+        <source>Disk access</source>
+        <translation>Disk access</translation>
+    </message>
+    <message id="onboarding.preferences.section">
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="onboarding.ready.section">
+        <source>Ready</source>
+        <translation>Ready</translation>
+    </message>
+    <message id="onboarding.progress">
+        <source>Step %1 of %2</source>
+        <translation>Step %1 of %2</translation>
+    </message>
+    <message id="onboarding.progress.announce">
+        <source>Now: %1</source>
+        <translation>Now: %1</translation>
+    </message>
+    <message id="onboarding.topBar">
+        <source>Setup · %1</source>
+        <translation>Setup · %1</translation>
+    </message>
+    <message id="onboarding.back">
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message id="onboarding.continue">
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+    <message id="onboarding.power.tagline">
+        <source>A control panel for a tidy disk.</source>
+        <translation>A control panel for a tidy disk.</translation>
+    </message>
+    <message id="onboarding.power.hint">
+        <source>Press to switch on</source>
+        <translation>Press to switch on</translation>
+    </message>
+    <message id="onboarding.power.button">
+        <source>Power on</source>
+        <translation>Power on</translation>
+    </message>
+    <message id="onboarding.channels.headline1">
+        <source>Eight channels,</source>
+        <translation>Eight channels,</translation>
+    </message>
+    <message id="onboarding.channels.headline2">
+        <source>one panel.</source>
+        <translation>one panel.</translation>
+    </message>
+    <message id="onboarding.channels.intro">
+        <source>Each channel looks after one kind of clutter. Nothing is removed until you confirm.</source>
+        <translation>Each channel looks after one kind of clutter. Nothing is removed until you confirm.</translation>
+    </message>
+    <message id="onboarding.channels.home">
+        <source>The smart scan and your disk at a glance</source>
+        <translation>The smart scan and your disk at a glance</translation>
+    </message>
+    <message id="onboarding.channels.junk">
+        <source>Caches, logs and leftovers of downloads</source>
+        <translation>Caches, logs and leftovers of downloads</translation>
+    </message>
+    <message id="onboarding.channels.lens">
+        <source>A map of what fills the disk</source>
+        <translation>A map of what fills the disk</translation>
+    </message>
+    <message id="onboarding.channels.large">
+        <source>Big files you have not opened in a while</source>
+        <translation>Big files you have not opened in a while</translation>
+    </message>
+    <message id="onboarding.channels.apps">
+        <source>Remove apps with everything they brought</source>
+        <translation>Remove apps with everything they brought</translation>
+    </message>
+    <message id="onboarding.channels.leftovers">
+        <source>What removed apps left behind</source>
+        <translation>What removed apps left behind</translation>
+    </message>
+    <message id="onboarding.channels.trash">
+        <source>See and empty the trash</source>
+        <translation>See and empty the trash</translation>
+    </message>
+    <message id="onboarding.channels.updates">
+        <source>Newer versions of your apps</source>
+        <translation>Newer versions of your apps</translation>
+    </message>
+    <message id="onboarding.disk.headline1">
+        <source>Let it see</source>
+        <translation>Let it see</translation>
+    </message>
+    <message id="onboarding.disk.headline2">
+        <source>the whole disk.</source>
+        <translation>the whole disk.</translation>
+    </message>
+    <message id="onboarding.disk.body">
+        <source>Some folders are only readable with full disk access. Without it the channels find less.</source>
+        <translation>Some folders are only readable with full disk access. Without it the channels find less.</translation>
+    </message>
+    <message id="onboarding.disk.step1">
+        <source>Open the system's privacy settings.</source>
+        <translation>Open the system's privacy settings.</translation>
+    </message>
+    <message id="onboarding.disk.step2">
+        <source>Choose full disk access.</source>
+        <translation>Choose full disk access.</translation>
+    </message>
+    <message id="onboarding.disk.step3">
+        <source>Add Zephrane to the list and switch it on.</source>
+        <translation>Add Zephrane to the list and switch it on.</translation>
+    </message>
+    <message id="onboarding.disk.openSettings">
+        <source>Open settings</source>
+        <translation>Open settings</translation>
+    </message>
+    <message id="onboarding.disk.waiting">
+        <source>Waiting for access…</source>
+        <translation>Waiting for access…</translation>
+    </message>
+    <message id="onboarding.disk.safety">
+        <source>Zephrane only reads to show you what it finds; it removes nothing you have not confirmed.</source>
+        <translation>Zephrane only reads to show you what it finds; it removes nothing you have not confirmed.</translation>
+    </message>
+    <message id="onboarding.disk.skip">
+        <source>Skip for now</source>
+        <translation>Skip for now</translation>
+    </message>
+    <message id="onboarding.disk.granted">
+        <source>Access granted.</source>
+        <translation>Access granted.</translation>
+    </message>
+    <message id="onboarding.disk.grantedBody">
+        <source>Every channel can read what it needs.</source>
+        <translation>Every channel can read what it needs.</translation>
+    </message>
+    <message id="onboarding.disk.selfTest">
+        <source>Self-test</source>
+        <translation>Self-test</translation>
+    </message>
+    <message id="onboarding.check.diskAccess">
+        <source>Disk access</source>
+        <translation>Disk access</translation>
+    </message>
+    <message id="onboarding.check.ok">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="onboarding.check.pending">
+        <source>Pending</source>
+        <translation>Pending</translation>
+    </message>
+    <message id="onboarding.check.skipped">
+        <source>Skipped</source>
+        <translation>Skipped</translation>
+    </message>
+    <message id="onboarding.check.destination">
+        <source>Removed items go to</source>
+        <translation>Removed items go to</translation>
+    </message>
+    <message id="onboarding.check.trash">
+        <source>Trash</source>
+        <translation>Trash</translation>
+    </message>
+    <message id="onboarding.check.delete">
+        <source>Deleted for good</source>
+        <translation>Deleted for good</translation>
+    </message>
+    <message id="onboarding.check.menuBar">
+        <source>Menu bar monitor</source>
+        <translation>Menu bar monitor</translation>
+    </message>
+    <message id="onboarding.check.on">
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message id="onboarding.check.off">
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message id="onboarding.preferences.headline1">
+        <source>Make it</source>
+        <translation>Make it</translation>
+    </message>
+    <message id="onboarding.preferences.headline2">
+        <source>yours.</source>
+        <translation>yours.</translation>
+    </message>
+    <message id="onboarding.preferences.trash">
+        <source>Move to the trash</source>
+        <translation>Move to the trash</translation>
+    </message>
+    <message id="onboarding.preferences.trash.detail">
+        <source>You can still get things back until you empty it.</source>
+        <translation>You can still get things back until you empty it.</translation>
+    </message>
+    <message id="onboarding.preferences.recommended">
+        <source>Recommended</source>
+        <translation>Recommended</translation>
+    </message>
+    <message id="onboarding.preferences.delete">
+        <source>Delete for good</source>
+        <translation>Delete for good</translation>
+    </message>
+    <message id="onboarding.preferences.delete.detail">
+        <source>Frees the space at once; there is no way back.</source>
+        <translation>Frees the space at once; there is no way back.</translation>
+    </message>
+    <message id="onboarding.preferences.menuBar">
+        <source>Monitor in the menu bar</source>
+        <translation>Monitor in the menu bar</translation>
+    </message>
+    <message id="onboarding.preferences.menuBar.detail">
+        <source>Memory, processor and disk at a glance.</source>
+        <translation>Memory, processor and disk at a glance.</translation>
+    </message>
+    <message id="onboarding.preferences.login.detail">
+        <source>Starts the monitor when you log in.</source>
+        <translation>Starts the monitor when you log in.</translation>
+    </message>
+    <message id="onboarding.preferences.outdated.detail">
+        <source>Tells you when apps have newer versions.</source>
+        <translation>Tells you when apps have newer versions.</translation>
+    </message>
+    <message id="onboarding.ready.headline1">
+        <source>All set.</source>
+        <translation>All set.</translation>
+    </message>
+    <message id="onboarding.ready.headline2">
+        <source>Panel on,</source>
+        <translation>Panel on,</translation>
+    </message>
+    <message id="onboarding.ready.headline3">
+        <source>channels live.</source>
+        <translation>channels live.</translation>
+    </message>
+    <message id="onboarding.ready.body">
+        <source>Here is what was set up.</source>
+        <translation>Here is what was set up.</translation>
+    </message>
+    <message id="onboarding.ready.selfTest">
+        <source>Self-test</source>
+        <translation>Self-test</translation>
+    </message>
+    <message id="onboarding.ready.question">
+        <source>Run the first scan now?</source>
+        <translation>Run the first scan now?</translation>
+    </message>
+    <message id="onboarding.ready.scan">
+        <source>Scan now</source>
+        <translation>Scan now</translation>
+    </message>
+    <message id="onboarding.ready.goHome">
+        <source>Go to Home</source>
+        <translation>Go to Home</translation>
+    </message>
+    <message id="onboarding.ready.firstScan">
+        <source>The first scan looks for junk and leftovers; it removes nothing.</source>
+        <translation>The first scan looks for junk and leftovers; it removes nothing.</translation>
+    </message>
 </context>
 </TS>

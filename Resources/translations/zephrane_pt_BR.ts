@@ -1383,5 +1383,441 @@
         <source>Found %1 of junk</source>
         <translation>Encontrados %1 de lixo</translation>
     </message>
+    <message id="home.disk.name">
+        <source>System disk</source>
+        <translation>Disco do sistema</translation>
+    </message>
+    <message id="home.disk.free">
+        <source>%1 free of %2</source>
+        <translation>%1 livres de %2</translation>
+    </message>
+    <message id="home.reading.scanning">
+        <source>Scanning…</source>
+        <translation>Analisando…</translation>
+    </message>
+    <message id="home.reading.found">
+        <source>%1 found</source>
+        <translation>%1 encontrados</translation>
+    </message>
+    <message id="home.reading.nothing">
+        <source>Nothing found</source>
+        <translation>Nada encontrado</translation>
+    </message>
+    <message id="home.reading.notScanned">
+        <source>Not scanned yet</source>
+        <translation>Ainda não analisado</translation>
+    </message>
+    <message id="home.reading.mapped">
+        <source>%1 mapped</source>
+        <translation>%1 mapeados</translation>
+    </message>
+    <message id="home.reading.files">
+        <source>Files: %1 · %2</source>
+        <translation>Arquivos: %1 · %2</translation>
+    </message>
+    <message id="home.reading.apps">
+        <source>Apps: %1</source>
+        <translation>Apps: %1</translation>
+    </message>
+    <message id="home.reading.noAccess">
+        <source>No access to the trash</source>
+        <translation>Sem acesso à Lixeira</translation>
+    </message>
+    <message id="home.reading.trash.empty">
+        <source>Empty</source>
+        <translation>Vazia</translation>
+    </message>
+    <message id="home.reading.trash">
+        <source>%1 in the trash</source>
+        <translation>%1 na Lixeira</translation>
+    </message>
+    <message id="home.reading.updates">
+        <source>Updates: %1</source>
+        <translation>Atualizações: %1</translation>
+    </message>
+    <message id="home.reading.upToDate">
+        <source>Everything up to date</source>
+        <translation>Tudo atualizado</translation>
+    </message>
+    <message id="home.reading.soon">
+        <source>Coming soon</source>
+        <translation>Em breve</translation>
+    </message>
+    <message id="home.scan.done">
+        <source>Smart scan finished: %1 found</source>
+        <translation>Análise inteligente concluída: %1 encontrados</translation>
+    </message>
+    <message id="home.scan.done.none">
+        <source>Smart scan finished: nothing to clean</source>
+        <translation>Análise inteligente concluída: nada para limpar</translation>
+    </message>
+    <message id="home.visor.intro">
+        <source>Run a smart scan to see what can be cleaned.</source>
+        <translation>Faça uma análise inteligente para ver o que pode ser limpo.</translation>
+    </message>
+    <message id="home.visor.never">
+        <source>No scan yet</source>
+        <translation>Nenhuma análise ainda</translation>
+    </message>
+    <message id="home.visor.scanning">
+        <source>Scanning</source>
+        <translation>Analisando</translation>
+    </message>
+    <message id="home.visor.total">
+        <source>Found</source>
+        <translation>Encontrado</translation>
+    </message>
+    <message id="home.visor.junk">
+        <source>Junk: %1</source>
+        <translation>Lixo: %1</translation>
+    </message>
+    <message id="home.visor.scannedAt">
+        <source>Scanned at %1</source>
+        <translation>Analisado às %1</translation>
+    </message>
+    <message id="home.visor.empty">
+        <source>All clean: nothing to remove.</source>
+        <translation>Tudo limpo: nada para remover.</translation>
+    </message>
+    <message id="home.scan.intro">
+        <source>The smart scan looks for junk and for what removed apps left behind, side by side.</source>
+        <translation>A análise inteligente procura lixo e o que apps removidos deixaram para trás, ao mesmo tempo.</translation>
+    </message>
+    <message id="home.scan.start">
+        <source>Smart scan</source>
+        <translation>Análise inteligente</translation>
+    </message>
+    <message id="home.scan.running.body">
+        <source>Looking for junk and leftovers…</source>
+        <translation>Procurando lixo e restos…</translation>
+    </message>
+    <message id="home.scan.progress">
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message id="home.scan.progress.value">
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message id="home.step.idle">
+        <source>Waiting</source>
+        <translation>Aguardando</translation>
+    </message>
+    <message id="home.step.queued">
+        <source>Queued</source>
+        <translation>Na fila</translation>
+    </message>
+    <message id="home.step.running">
+        <source>Scanning</source>
+        <translation>Analisando</translation>
+    </message>
+    <message id="home.step.done">
+        <source>Done</source>
+        <translation>Pronto</translation>
+    </message>
+    <message id="home.scan.items">
+        <source>Items: %1</source>
+        <translation>Itens: %1</translation>
+    </message>
+    <message id="home.pair">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="home.scan.found.body">
+        <source>Review what was found before anything is removed.</source>
+        <translation>Revise o que foi encontrado antes de remover qualquer coisa.</translation>
+    </message>
+    <message id="home.scan.review">
+        <source>Review</source>
+        <translation>Revisar</translation>
+    </message>
+    <message id="home.scan.again">
+        <source>Scan again</source>
+        <translation>Analisar de novo</translation>
+    </message>
+    <message id="onboarding.power.a11yTitle">
+        <source>Power</source>
+        <translation>Ligar</translation>
+    </message>
+    <message id="onboarding.channels.a11yTitle">
+        <source>The channels</source>
+        <translation>Os canais</translation>
+    </message>
+    <message id="onboarding.disk.title">
+        <source>Disk access</source>
+        <translation>Acesso ao disco</translation>
+    </message>
+    <message id="onboarding.preferences.a11yTitle">
+        <source>Preferences</source>
+        <translation>Preferências</translation>
+    </message>
+    <message id="onboarding.ready.a11yTitle">
+        <source>Ready</source>
+        <translation>Pronto</translation>
+    </message>
+    <message id="onboarding.channels.section">
+        <source>Channels</source>
+        <translation>Canais</translation>
+    </message>
+    <message id="onboarding.disk.section">
+        <source>Disk access</source>
+        <translation>Acesso ao disco</translation>
+    </message>
+    <message id="onboarding.preferences.section">
+        <source>Preferences</source>
+        <translation>Preferências</translation>
+    </message>
+    <message id="onboarding.ready.section">
+        <source>Ready</source>
+        <translation>Pronto</translation>
+    </message>
+    <message id="onboarding.progress">
+        <source>Step %1 of %2</source>
+        <translation>Passo %1 de %2</translation>
+    </message>
+    <message id="onboarding.progress.announce">
+        <source>Now: %1</source>
+        <translation>Agora: %1</translation>
+    </message>
+    <message id="onboarding.topBar">
+        <source>Setup · %1</source>
+        <translation>Configuração · %1</translation>
+    </message>
+    <message id="onboarding.back">
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message id="onboarding.continue">
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message id="onboarding.power.tagline">
+        <source>A control panel for a tidy disk.</source>
+        <translation>Um painel de controle para um disco em ordem.</translation>
+    </message>
+    <message id="onboarding.power.hint">
+        <source>Press to switch on</source>
+        <translation>Pressione para ligar</translation>
+    </message>
+    <message id="onboarding.power.button">
+        <source>Power on</source>
+        <translation>Ligar</translation>
+    </message>
+    <message id="onboarding.channels.headline1">
+        <source>Eight channels,</source>
+        <translation>Oito canais,</translation>
+    </message>
+    <message id="onboarding.channels.headline2">
+        <source>one panel.</source>
+        <translation>um painel.</translation>
+    </message>
+    <message id="onboarding.channels.intro">
+        <source>Each channel looks after one kind of clutter. Nothing is removed until you confirm.</source>
+        <translation>Cada canal cuida de um tipo de bagunça. Nada é removido sem a sua confirmação.</translation>
+    </message>
+    <message id="onboarding.channels.home">
+        <source>The smart scan and your disk at a glance</source>
+        <translation>A análise inteligente e o seu disco num relance</translation>
+    </message>
+    <message id="onboarding.channels.junk">
+        <source>Caches, logs and leftovers of downloads</source>
+        <translation>Caches, registros e downloads incompletos</translation>
+    </message>
+    <message id="onboarding.channels.lens">
+        <source>A map of what fills the disk</source>
+        <translation>Um mapa do que ocupa o disco</translation>
+    </message>
+    <message id="onboarding.channels.large">
+        <source>Big files you have not opened in a while</source>
+        <translation>Arquivos grandes que você não abre há tempos</translation>
+    </message>
+    <message id="onboarding.channels.apps">
+        <source>Remove apps with everything they brought</source>
+        <translation>Remova apps com tudo o que trouxeram</translation>
+    </message>
+    <message id="onboarding.channels.leftovers">
+        <source>What removed apps left behind</source>
+        <translation>O que apps removidos deixaram para trás</translation>
+    </message>
+    <message id="onboarding.channels.trash">
+        <source>See and empty the trash</source>
+        <translation>Veja e esvazie a Lixeira</translation>
+    </message>
+    <message id="onboarding.channels.updates">
+        <source>Newer versions of your apps</source>
+        <translation>Versões novas dos seus apps</translation>
+    </message>
+    <message id="onboarding.disk.headline1">
+        <source>Let it see</source>
+        <translation>Deixe-o ver</translation>
+    </message>
+    <message id="onboarding.disk.headline2">
+        <source>the whole disk.</source>
+        <translation>o disco inteiro.</translation>
+    </message>
+    <message id="onboarding.disk.body">
+        <source>Some folders are only readable with full disk access. Without it the channels find less.</source>
+        <translation>Algumas pastas só podem ser lidas com acesso total ao disco. Sem ele os canais encontram menos.</translation>
+    </message>
+    <message id="onboarding.disk.step1">
+        <source>Open the system's privacy settings.</source>
+        <translation>Abra os ajustes de privacidade do sistema.</translation>
+    </message>
+    <message id="onboarding.disk.step2">
+        <source>Choose full disk access.</source>
+        <translation>Escolha acesso total ao disco.</translation>
+    </message>
+    <message id="onboarding.disk.step3">
+        <source>Add Zephrane to the list and switch it on.</source>
+        <translation>Adicione o Zephrane à lista e ative-o.</translation>
+    </message>
+    <message id="onboarding.disk.openSettings">
+        <source>Open settings</source>
+        <translation>Abrir ajustes</translation>
+    </message>
+    <message id="onboarding.disk.waiting">
+        <source>Waiting for access…</source>
+        <translation>Aguardando acesso…</translation>
+    </message>
+    <message id="onboarding.disk.safety">
+        <source>Zephrane only reads to show you what it finds; it removes nothing you have not confirmed.</source>
+        <translation>O Zephrane só lê para mostrar o que encontra; não remove nada que você não confirmou.</translation>
+    </message>
+    <message id="onboarding.disk.skip">
+        <source>Skip for now</source>
+        <translation>Pular por enquanto</translation>
+    </message>
+    <message id="onboarding.disk.granted">
+        <source>Access granted.</source>
+        <translation>Acesso concedido.</translation>
+    </message>
+    <message id="onboarding.disk.grantedBody">
+        <source>Every channel can read what it needs.</source>
+        <translation>Todos os canais podem ler o que precisam.</translation>
+    </message>
+    <message id="onboarding.disk.selfTest">
+        <source>Self-test</source>
+        <translation>Autoteste</translation>
+    </message>
+    <message id="onboarding.check.diskAccess">
+        <source>Disk access</source>
+        <translation>Acesso ao disco</translation>
+    </message>
+    <message id="onboarding.check.ok">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="onboarding.check.pending">
+        <source>Pending</source>
+        <translation>Pendente</translation>
+    </message>
+    <message id="onboarding.check.skipped">
+        <source>Skipped</source>
+        <translation>Pulado</translation>
+    </message>
+    <message id="onboarding.check.destination">
+        <source>Removed items go to</source>
+        <translation>Itens removidos vão para</translation>
+    </message>
+    <message id="onboarding.check.trash">
+        <source>Trash</source>
+        <translation>Lixeira</translation>
+    </message>
+    <message id="onboarding.check.delete">
+        <source>Deleted for good</source>
+        <translation>Apagados de vez</translation>
+    </message>
+    <message id="onboarding.check.menuBar">
+        <source>Menu bar monitor</source>
+        <translation>Monitor na barra de menus</translation>
+    </message>
+    <message id="onboarding.check.on">
+        <source>On</source>
+        <translation>Ligado</translation>
+    </message>
+    <message id="onboarding.check.off">
+        <source>Off</source>
+        <translation>Desligado</translation>
+    </message>
+    <message id="onboarding.preferences.headline1">
+        <source>Make it</source>
+        <translation>Deixe-o</translation>
+    </message>
+    <message id="onboarding.preferences.headline2">
+        <source>yours.</source>
+        <translation>do seu jeito.</translation>
+    </message>
+    <message id="onboarding.preferences.trash">
+        <source>Move to the trash</source>
+        <translation>Mover para a Lixeira</translation>
+    </message>
+    <message id="onboarding.preferences.trash.detail">
+        <source>You can still get things back until you empty it.</source>
+        <translation>Você ainda pode recuperar tudo até esvaziá-la.</translation>
+    </message>
+    <message id="onboarding.preferences.recommended">
+        <source>Recommended</source>
+        <translation>Recomendado</translation>
+    </message>
+    <message id="onboarding.preferences.delete">
+        <source>Delete for good</source>
+        <translation>Apagar de vez</translation>
+    </message>
+    <message id="onboarding.preferences.delete.detail">
+        <source>Frees the space at once; there is no way back.</source>
+        <translation>Libera o espaço na hora; não há volta.</translation>
+    </message>
+    <message id="onboarding.preferences.menuBar">
+        <source>Monitor in the menu bar</source>
+        <translation>Monitor na barra de menus</translation>
+    </message>
+    <message id="onboarding.preferences.menuBar.detail">
+        <source>Memory, processor and disk at a glance.</source>
+        <translation>Memória, processador e disco num relance.</translation>
+    </message>
+    <message id="onboarding.preferences.login.detail">
+        <source>Starts the monitor when you log in.</source>
+        <translation>Inicia o monitor quando você entra na sessão.</translation>
+    </message>
+    <message id="onboarding.preferences.outdated.detail">
+        <source>Tells you when apps have newer versions.</source>
+        <translation>Avisa quando os apps têm versões novas.</translation>
+    </message>
+    <message id="onboarding.ready.headline1">
+        <source>All set.</source>
+        <translation>Tudo pronto.</translation>
+    </message>
+    <message id="onboarding.ready.headline2">
+        <source>Panel on,</source>
+        <translation>Painel ligado,</translation>
+    </message>
+    <message id="onboarding.ready.headline3">
+        <source>channels live.</source>
+        <translation>canais no ar.</translation>
+    </message>
+    <message id="onboarding.ready.body">
+        <source>Here is what was set up.</source>
+        <translation>Veja o que foi configurado.</translation>
+    </message>
+    <message id="onboarding.ready.selfTest">
+        <source>Self-test</source>
+        <translation>Autoteste</translation>
+    </message>
+    <message id="onboarding.ready.question">
+        <source>Run the first scan now?</source>
+        <translation>Fazer a primeira análise agora?</translation>
+    </message>
+    <message id="onboarding.ready.scan">
+        <source>Scan now</source>
+        <translation>Analisar agora</translation>
+    </message>
+    <message id="onboarding.ready.goHome">
+        <source>Go to Home</source>
+        <translation>Ir para o Início</translation>
+    </message>
+    <message id="onboarding.ready.firstScan">
+        <source>The first scan looks for junk and leftovers; it removes nothing.</source>
+        <translation>A primeira análise procura lixo e restos; não remove nada.</translation>
+    </message>
 </context>
 </TS>

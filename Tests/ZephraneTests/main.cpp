@@ -1,10 +1,12 @@
 #include "App/AppLanguage.hpp"
+#include "App/Preferences.hpp"
 #include "Painel/PainelDesktopSettings.hpp"
 #include "Painel/PainelTheme.hpp"
 #include "TempTree.hpp"
 
 #include <QApplication>
 #include <QQuickStyle>
+#include <QSettings>
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <gtest/gtest.h>
@@ -19,6 +21,8 @@ int main(int argc, char** argv) {
     QCoreApplication::setOrganizationName(QStringLiteral("ZephraneTests"));
     QCoreApplication::setApplicationName(QStringLiteral("ZephraneTests"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZEPHRANE_VERSION));
+    // Window tests meet the channels; the first-run flow's own tests clear this.
+    QSettings().setValue(QString::fromLatin1(Preferences::onboardingDoneKey), true);
     AppLanguages::install(app, AppLanguages::rawValue(AppLanguage::english));
     PainelTheme::installFonts();
     // The look under test must not depend on the desktop the tests happen to run on.

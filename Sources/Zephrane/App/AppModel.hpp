@@ -5,6 +5,7 @@
 #include "App/ChannelList.hpp"
 #include "App/Preferences.hpp"
 #include "Modules/Apps/UninstallerModel.hpp"
+#include "Modules/Home/HomeModel.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
 #include "Modules/Large/LargeFilesModel.hpp"
 #include "Modules/Leftovers/LeftoversModel.hpp"
@@ -12,6 +13,7 @@
 #include "Modules/Trash/TrashModel.hpp"
 
 #include <QDateTime>
+#include <QFuture>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -35,6 +37,8 @@ class AppModel : public QObject {
     Q_PROPERTY(bool trayAvailable READ trayAvailable NOTIFY trayAvailableChanged)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
+    Q_PROPERTY(bool isSmartScanning READ isSmartScanning NOTIFY smartScanningChanged)
+    Q_PROPERTY(HomeModel* home READ home CONSTANT)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
                    smartScanChanged)
 
@@ -63,6 +67,16 @@ public:
     bool trayAvailable() const { return hasTray; }
     void setTrayAvailable(bool available);
 
+    HomeModel* home() const { return homeModel; }
+
+    // Scans the junk and the leftovers side by side; the future ends when both have. A second call
+    // while one runs returns at once, and a model already busy is not waited for.
+    QFuture<void> smartScan();
+    Q_INVOKABLE void startSmartScan() { smartScan(); }
+    bool isSmartScanning() const { return scanStarted.isValid(); }
+    // Whether the running smart scan has heard back from the channel's model (junk or leftovers).
+    bool smartScanReported(Channel channel) const;
+
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
     void setSmartScanStartedAt(const QDateTime& value);
@@ -72,6 +86,7 @@ signals:
     void selectionChanged();
     void smartScanChanged();
     void trayAvailableChanged();
+    void smartScanningChanged();
 
 private:
     Preferences* settings;
@@ -83,9 +98,12 @@ private:
     LeftoversModel* leftoversModel;
     TrashModel* trashModel;
     ChannelList* channelList;
+    HomeModel* homeModel;
 
     Channel currentChannel = Channel::home;
     bool hasTray = false;
     QDateTime scanStarted;
     QDateTime scanFinished;
+    bool junkReported = false;
+    bool leftoversReported = false;
 };

@@ -11,7 +11,8 @@ namespace {
 constexpr const char* placeholder = "App/ChannelPlaceholder.qml";
 
 constexpr std::array<ChannelRow, 8> table{{
-    {Channel::home, QT_TRID_NOOP("channel.home.short"), QT_TRID_NOOP("channel.home.title"), placeholder, nullptr},
+    {Channel::home, QT_TRID_NOOP("channel.home.short"), QT_TRID_NOOP("channel.home.title"),
+     "Modules/Home/HomeChannel.qml", [](const AppModel& app) -> QObject* { return app.home(); }},
     {Channel::junk, QT_TRID_NOOP("channel.junk.short"), QT_TRID_NOOP("channel.junk.title"),
      "Modules/Junk/JunkChannel.qml", [](const AppModel& app) -> QObject* { return app.junk(); }},
     {Channel::lens, QT_TRID_NOOP("channel.lens.short"), QT_TRID_NOOP("channel.lens.title"),

@@ -31,9 +31,16 @@ Window {
     MainView {
         id: mainView
         anchors.fill: parent
+        visible: gate.opacity < 1
         appModel: main.appModel
         window: main
         onSettingsRequested: main.openSettings()
+    }
+
+    OnboardingGate {
+        id: gate
+        anchors.fill: parent
+        appModel: main.appModel
     }
 
     function openSettings() {

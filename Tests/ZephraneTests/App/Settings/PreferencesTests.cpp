@@ -10,7 +10,10 @@ namespace {
 class PreferencesStore : public ::testing::Test {
 protected:
     void SetUp() override { clear(); }
-    void TearDown() override { clear(); }
+    void TearDown() override {
+        clear();
+        QSettings().setValue(QLatin1String(Preferences::onboardingDoneKey), true); // as the test program left it
+    }
     static void clear() {
         QSettings settings;
         for (const char* key : {Preferences::showMenuBarAgentKey, Preferences::launchAtLoginKey,

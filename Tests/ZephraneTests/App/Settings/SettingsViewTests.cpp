@@ -58,6 +58,7 @@ protected:
         window.reset();
         QmlTestSupport::useLanguage("en");
         QSettings().remove(AppLanguages::overrideKey);
+        QSettings().setValue(Preferences::onboardingDoneKey, true);
         auto& monitor = FullDiskAccessMonitor::shared();
         monitor.setProbes(FullDiskAccess::probes());
         monitor.resetForTesting();

@@ -1,0 +1,125 @@
+#include "App/AppModel.hpp"
+#include "App/MainWindow.hpp"
+#include "JunkHome.hpp"
+#include "Support/QmlTestSupport.hpp"
+
+#include <QDir>
+#include <QProcess>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* childLanguage = "ZEPHRANE_HOME_WINDOW_LANGUAGE";
+
+// The test program's home, which main() made temporary; the smart scan runs over a fixture in it.
+fs::path testHome() {
+    const fs::path home = QDir::homePath().toStdString();
+    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
+        std::abort(); // never anywhere near a real home
+    return home;
+}
+
+void removeFixture() {
+    for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
+        fs::remove_all(testHome() / top);
+}
+
+QQuickItem* find(QQuickWindow* window, const QString& name) {
+    QQuickItem* item = QmlTestSupport::findItem(window->contentItem(), name, true);
+    EXPECT_NE(item, nullptr) << name.toStdString();
+    return item;
+}
+
+bool shown(QQuickWindow* window, const QString& name) {
+    QQuickItem* item = QmlTestSupport::findItem(window->contentItem(), name, true);
+    return item && item->isVisible();
+}
+
+// Home before, during and after a smart scan, then the review key to the junk.
+void runHome(const QString& language) {
+    removeFixture();
+    TestSupport::buildJunkHome(testHome());
+    QmlTestSupport::WarningCollector warnings;
+    {
+        AppModel model;
+        model.junk()->setRunningBundleIDs([] { return std::set<std::string>{}; });
+        QQmlApplicationEngine engine;
+        QQuickWindow* window = MainWindow::load(engine, model);
+        ASSERT_NE(window, nullptr);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+        QmlTestSupport::settle(120);
+        const QString shot = QStringLiteral("home-%1-").arg(language);
+        EXPECT_EQ(model.selection(), Channel::home);
+        EXPECT_EQ(model.junk()->phase(), ModulePhase::idle) << "showing Home scans nothing";
+        EXPECT_FALSE(model.home()->disk().name.isEmpty()) << "the screen reads the disk";
+        EXPECT_TRUE(shown(window, "smartScanKey"));
+        EXPECT_FALSE(shown(window, "visorTotal"));
+        QmlTestSupport::saveScreenshot(*window, shot + "1-before");
+
+        QQuickItem* scanKey = find(window, "smartScanKey");
+        ASSERT_NE(scanKey, nullptr);
+        scanKey->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_Space);
+        ASSERT_TRUE(model.isSmartScanning());
+        // The fixture scans in moments: look before the event loop lets it finish.
+        EXPECT_TRUE(shown(window, "scanProgress"));
+        QmlTestSupport::saveScreenshot(*window, shot + "2-scanning");
+
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !model.isSmartScanning(); }, 20000));
+        QmlTestSupport::settle(120);
+        EXPECT_TRUE(shown(window, "visorTotal"));
+        EXPECT_TRUE(shown(window, "reviewKey"));
+        QmlTestSupport::saveScreenshot(*window, shot + "3-after");
+
+        // A card opens its channel from the keyboard.
+        QQuickItem* trashCard = find(window, QStringLiteral("readingCard%1").arg(Channels::rawValue(Channel::trash)));
+        ASSERT_NE(trashCard, nullptr);
+        trashCard->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_Return);
+        EXPECT_EQ(model.selection(), Channel::trash);
+        model.open(Channel::home);
+        QmlTestSupport::settle(120);
+
+        QmlTestSupport::click(*window, *find(window, "reviewKey"));
+        EXPECT_EQ(model.selection(), Channel::junk);
+        window->close();
+    }
+    warnings.expectNone();
+    removeFixture();
+}
+
+} // namespace
+
+TEST(HomeChannelWindow, SmartScanFromTheKeyboardThenReview) {
+    QmlTestSupport::useLanguage("en");
+    runHome("en");
+}
+
+// The rules' texts keep the language of their first use, so Portuguese gets a process of its own.
+TEST(HomeChannelWindow, PortugueseInAProcessOfItsOwn) {
+    if (qEnvironmentVariableIsSet(childLanguage)) {
+        QmlTestSupport::useLanguage("pt-BR");
+        runHome("pt-BR");
+        QmlTestSupport::useLanguage("en");
+        return;
+    }
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(childLanguage, "pt-BR");
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::MergedChannels);
+    child.start(QCoreApplication::applicationFilePath(),
+                {"--gtest_filter=HomeChannelWindow.PortugueseInAProcessOfItsOwn"});
+    ASSERT_TRUE(child.waitForFinished(120000));
+    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+}
