@@ -10,6 +10,7 @@
 #include "Modules/Leftovers/LeftoversModel.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 #include "Modules/Trash/TrashModel.hpp"
+#include "Modules/Updates/UpdatesModel.hpp"
 
 #include <QDateTime>
 #include <QObject>
@@ -32,6 +33,7 @@ class AppModel : public QObject {
     Q_PROPERTY(UninstallerModel* uninstaller READ uninstaller CONSTANT)
     Q_PROPERTY(LeftoversModel* leftovers READ leftovers CONSTANT)
     Q_PROPERTY(TrashModel* trash READ trash CONSTANT)
+    Q_PROPERTY(UpdatesModel* updates READ updates CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(QDateTime smartScanFinishedAt READ smartScanFinishedAt WRITE setSmartScanFinishedAt NOTIFY
@@ -57,6 +59,7 @@ public:
     UninstallerModel* uninstaller() const { return appsModel; }
     LeftoversModel* leftovers() const { return leftoversModel; }
     TrashModel* trash() const { return trashModel; }
+    UpdatesModel* updates() const { return updatesModel; }
 
     QDateTime smartScanStartedAt() const { return scanStarted; }
     QDateTime smartScanFinishedAt() const { return scanFinished; }
@@ -76,6 +79,7 @@ private:
     UninstallerModel* appsModel;
     LeftoversModel* leftoversModel;
     TrashModel* trashModel;
+    UpdatesModel* updatesModel;
     ChannelList* channelList;
 
     Channel currentChannel = Channel::home;

@@ -24,8 +24,8 @@ constexpr std::array<ChannelRow, 8> table{{
      "Modules/Leftovers/LeftoversChannel.qml", [](const AppModel& app) -> QObject* { return app.leftovers(); }},
     {Channel::trash, QT_TRID_NOOP("channel.trash.short"), QT_TRID_NOOP("channel.trash.title"),
      "Modules/Trash/TrashChannel.qml", [](const AppModel& app) -> QObject* { return app.trash(); }},
-    {Channel::updates, QT_TRID_NOOP("channel.updates.short"), QT_TRID_NOOP("channel.updates.title"), placeholder,
-     nullptr},
+    {Channel::updates, QT_TRID_NOOP("channel.updates.short"), QT_TRID_NOOP("channel.updates.title"),
+     "Modules/Updates/UpdatesChannel.qml", [](const AppModel& app) -> QObject* { return app.updates(); }},
 }};
 
 constexpr bool inColumnOrder() {

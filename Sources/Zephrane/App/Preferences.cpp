@@ -79,3 +79,24 @@ bool Preferences::onboardingDone() const {
 void Preferences::setOnboardingDone(bool done) {
     write(onboardingDoneKey, done, &Preferences::onboardingDoneChanged);
 }
+
+std::map<std::string, std::string> Preferences::ignoredUpdateVersions() const {
+    std::map<std::string, std::string> versions;
+    const QVariantMap stored = QSettings().value(QLatin1String(ignoredUpdateVersionsKey)).toMap();
+    for (auto it = stored.begin(); it != stored.end(); ++it)
+        versions[it.key().toStdString()] = it.value().toString().toStdString();
+    return versions;
+}
+void Preferences::setIgnoredUpdateVersions(const std::map<std::string, std::string>& versions) {
+    QVariantMap map;
+    for (const auto& [key, version] : versions)
+        map.insert(QString::fromStdString(key), QString::fromStdString(version));
+    QSettings().setValue(QLatin1String(ignoredUpdateVersionsKey), map);
+}
+
+QDateTime Preferences::updatesLastChecked() const {
+    return QSettings().value(QLatin1String(updatesLastCheckedKey)).toDateTime();
+}
+void Preferences::setUpdatesLastChecked(const QDateTime& when) {
+    QSettings().setValue(QLatin1String(updatesLastCheckedKey), when);
+}
