@@ -9,7 +9,7 @@ import Zephrane
 FocusScope {
     id: root
 
-    required property UpdatesModel model
+    required property UpdatesModel updates
     required property var columns
     required property string updateID
     required property string name
@@ -33,21 +33,19 @@ FocusScope {
     Accessible.description: [root.currentVersion + " → " + root.newVersion, root.sourceTitle,
                              root.stateKind === "idle" ? root.actionText : root.stateText].join(", ")
 
-    Keys.onSpacePressed: if (root.isSelectable) root.model.toggleSelected(root.updateID)
-    Keys.onReturnPressed: if (root.stateKind === "idle") root.model.perform(root.updateID)
-    Keys.onEnterPressed: if (root.stateKind === "idle") root.model.perform(root.updateID)
+    Keys.onSpacePressed: if (root.isSelectable) root.updates.toggleSelected(root.updateID)
+    Keys.onReturnPressed: if (root.stateKind === "idle") root.updates.perform(root.updateID)
+    Keys.onEnterPressed: if (root.stateKind === "idle") root.updates.perform(root.updateID)
     Keys.onMenuPressed: rowMenu.popup()
     Keys.onPressed: event => {
         if (event.key === Qt.Key_N) { root.showNotes(); event.accepted = true }
-        else if (event.key === Qt.Key_I) { root.model.ignore(root.updateID); event.accepted = true }
+        else if (event.key === Qt.Key_I) { root.updates.ignore(root.updateID); event.accepted = true }
     }
 
     Rectangle {
         anchors.fill: parent
         radius: 6
         color: root.activeFocus ? PainelTheme.raised : "transparent"
-        PainelFocusRing { target: root }
-
         TapHandler {
             acceptedButtons: Qt.RightButton
             onTapped: { root.forceActiveFocus(); rowMenu.popup() }
@@ -59,7 +57,7 @@ FocusScope {
         Menu {
             id: rowMenu
             MenuItem { text: qsTrId("updates.menu.notes"); onTriggered: root.showNotes() }
-            MenuItem { text: qsTrId("updates.menu.ignore"); onTriggered: root.model.ignore(root.updateID) }
+            MenuItem { text: qsTrId("updates.menu.ignore"); onTriggered: root.updates.ignore(root.updateID) }
         }
 
         Row {
@@ -77,8 +75,8 @@ FocusScope {
                     label: root.name
                     interactive: root.isSelectable
                     activeFocusOnTab: false
-                    onToggled: root.model.toggleSelected(root.updateID)
-                    TapHandler { onTapped: if (root.isSelectable) root.model.toggleSelected(root.updateID) }
+                    onToggled: root.updates.toggleSelected(root.updateID)
+                    TapHandler { onTapped: if (root.isSelectable) root.updates.toggleSelected(root.updateID) }
                 }
             }
             Column {
@@ -131,8 +129,8 @@ FocusScope {
                     visible: root.stateKind === "idle"
                     text: root.actionText
                     size: PainelButtonSize.Small
-                    enabled: !root.model.isBusy || root.actionText !== qsTrId("updates.action.install")
-                    onClicked: root.model.perform(root.updateID)
+                    enabled: !root.updates.isBusy || root.actionText !== qsTrId("updates.action.install")
+                    onClicked: root.updates.perform(root.updateID)
                 }
                 Text {
                     objectName: "stateText"
@@ -152,4 +150,6 @@ FocusScope {
             }
         }
     }
+
+    PainelFocusRing {}
 }

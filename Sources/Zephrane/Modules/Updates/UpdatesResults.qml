@@ -62,7 +62,7 @@ FocusScope {
             required property bool hasNotesURL
             objectName: "updateRow-" + name
             width: rows.width
-            model: root.model
+            updates: root.model
             columns: root.columns
             focus: ListView.isCurrentItem
             onShowNotes: root.notesRow = { id: updateID, name: name, notes: notes, language: notesLanguage, hasURL: hasNotesURL }

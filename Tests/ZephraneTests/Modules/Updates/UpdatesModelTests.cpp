@@ -50,7 +50,7 @@ struct Updates : testing::Test {
     std::vector<QUrl> opened;
     std::vector<QString> copied;
     std::vector<QString> spoken;
-    QDateTime now = QDateTime(QDate(2026, 3, 1), QTime(12, 0), QTimeZone::UTC);
+    QDateTime now = QDateTime(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
     Preferences preferences;
     std::unique_ptr<UpdatesModel> model;
     Announcer::Sink previousSink;
