@@ -1360,8 +1360,8 @@
         <translation>%1: this version is ignored</translation>
     </message>
     <message id="updates.announce.finished">
-        <source>Finished updating %1 apps</source>
-        <translation>Finished updating %1 apps</translation>
+        <source>Updates finished: %1</source>
+        <translation>Updates finished: %1</translation>
     </message>
     <message id="updates.column.app">
         <source>App</source>
@@ -1388,8 +1388,8 @@
         <translation>Install</translation>
     </message>
     <message id="updates.confirm.title">
-        <source>Install %1 updates?</source>
-        <translation>Install %1 updates?</translation>
+        <source>Updates to install: %1</source>
+        <translation>Updates to install: %1</translation>
     </message>
     <message id="updates.confirm.message">
         <source>Each app is downloaded, checked and replaced in turn. The old copy goes to the Trash.</source>
@@ -1432,8 +1432,8 @@
         <translation>A daily notice when updates are waiting</translation>
     </message>
     <message id="updates.outdated">
-        <source>%1 outdated apps</source>
-        <translation>%1 outdated apps</translation>
+        <source>Outdated apps: %1</source>
+        <translation>Outdated apps: %1</translation>
     </message>
     <message id="updates.outdated.label">
         <source>Outdated</source>

@@ -1360,8 +1360,8 @@
         <translation>%1: esta versão será ignorada</translation>
     </message>
     <message id="updates.announce.finished">
-        <source>Finished updating %1 apps</source>
-        <translation>Atualização de %1 apps concluída</translation>
+        <source>Updates finished: %1</source>
+        <translation>Atualizações concluídas: %1</translation>
     </message>
     <message id="updates.column.app">
         <source>App</source>
@@ -1388,8 +1388,8 @@
         <translation>Instalar</translation>
     </message>
     <message id="updates.confirm.title">
-        <source>Install %1 updates?</source>
-        <translation>Instalar %1 atualizações?</translation>
+        <source>Updates to install: %1</source>
+        <translation>Atualizações a instalar: %1</translation>
     </message>
     <message id="updates.confirm.message">
         <source>Each app is downloaded, checked and replaced in turn. The old copy goes to the Trash.</source>
@@ -1432,8 +1432,8 @@
         <translation>Um aviso diário quando houver atualizações</translation>
     </message>
     <message id="updates.outdated">
-        <source>%1 outdated apps</source>
-        <translation>%1 apps desatualizados</translation>
+        <source>Outdated apps: %1</source>
+        <translation>Apps desatualizados: %1</translation>
     </message>
     <message id="updates.outdated.label">
         <source>Outdated</source>

@@ -11,7 +11,8 @@ namespace {
 constexpr const char* placeholder = "App/ChannelPlaceholder.qml";
 
 constexpr std::array<ChannelRow, 8> table{{
-    {Channel::home, QT_TRID_NOOP("channel.home.short"), QT_TRID_NOOP("channel.home.title"), placeholder, nullptr},
+    {Channel::home, QT_TRID_NOOP("channel.home.short"), QT_TRID_NOOP("channel.home.title"), placeholder,
+     nullptr},
     {Channel::junk, QT_TRID_NOOP("channel.junk.short"), QT_TRID_NOOP("channel.junk.title"),
      "Modules/Junk/JunkChannel.qml", [](const AppModel& app) -> QObject* { return app.junk(); }},
     {Channel::lens, QT_TRID_NOOP("channel.lens.short"), QT_TRID_NOOP("channel.lens.title"),
@@ -21,7 +22,8 @@ constexpr std::array<ChannelRow, 8> table{{
     {Channel::apps, QT_TRID_NOOP("channel.apps.short"), QT_TRID_NOOP("channel.apps.title"),
      "Modules/Apps/AppsChannel.qml", [](const AppModel& app) -> QObject* { return app.uninstaller(); }},
     {Channel::leftovers, QT_TRID_NOOP("channel.leftovers.short"), QT_TRID_NOOP("channel.leftovers.title"),
-     "Modules/Leftovers/LeftoversChannel.qml", [](const AppModel& app) -> QObject* { return app.leftovers(); }},
+     "Modules/Leftovers/LeftoversChannel.qml",
+     [](const AppModel& app) -> QObject* { return app.leftovers(); }},
     {Channel::trash, QT_TRID_NOOP("channel.trash.short"), QT_TRID_NOOP("channel.trash.title"),
      "Modules/Trash/TrashChannel.qml", [](const AppModel& app) -> QObject* { return app.trash(); }},
     {Channel::updates, QT_TRID_NOOP("channel.updates.short"), QT_TRID_NOOP("channel.updates.title"),

@@ -52,10 +52,12 @@ void Preferences::setNotifyOutdatedApps(bool on) {
 }
 
 CleanDestination Preferences::cleanDestination() const {
-    return CleanDestinations::fromRaw(stored(cleanDestinationKey).toString()).value_or(CleanDestination::trash);
+    return CleanDestinations::fromRaw(stored(cleanDestinationKey).toString())
+        .value_or(CleanDestination::trash);
 }
 void Preferences::setCleanDestination(CleanDestination destination) {
-    write(cleanDestinationKey, CleanDestinations::rawValue(destination), &Preferences::cleanDestinationChanged);
+    write(cleanDestinationKey, CleanDestinations::rawValue(destination),
+          &Preferences::cleanDestinationChanged);
 }
 void Preferences::setCleanDestinationRaw(const QString& raw) {
     if (auto destination = CleanDestinations::fromRaw(raw))

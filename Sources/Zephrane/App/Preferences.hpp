@@ -19,7 +19,8 @@ class Preferences : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The application model owns the preferences")
-    Q_PROPERTY(bool showMenuBarAgent READ showMenuBarAgent WRITE setShowMenuBarAgent NOTIFY showMenuBarAgentChanged)
+    Q_PROPERTY(
+        bool showMenuBarAgent READ showMenuBarAgent WRITE setShowMenuBarAgent NOTIFY showMenuBarAgentChanged)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
     Q_PROPERTY(bool notifyOutdatedApps READ notifyOutdatedApps WRITE setNotifyOutdatedApps NOTIFY
                    notifyOutdatedAppsChanged)

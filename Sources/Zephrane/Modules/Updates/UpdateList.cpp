@@ -10,20 +10,28 @@ namespace {
 
 QString sourceTitle(AppUpdateSource source) {
     switch (source) {
-    case AppUpdateSource::sparkle: return qtTrId("updates.source.sparkle");
-    case AppUpdateSource::appStore: return qtTrId("updates.source.appStore");
-    case AppUpdateSource::homebrew: return qtTrId("updates.source.homebrew");
-    case AppUpdateSource::flatpak: return qtTrId("updates.source.flatpak");
+    case AppUpdateSource::sparkle:
+        return qtTrId("updates.source.sparkle");
+    case AppUpdateSource::appStore:
+        return qtTrId("updates.source.appStore");
+    case AppUpdateSource::homebrew:
+        return qtTrId("updates.source.homebrew");
+    case AppUpdateSource::flatpak:
+        return qtTrId("updates.source.flatpak");
     }
     return {};
 }
 
 QString actionText(AppUpdateAction action) {
     switch (action) {
-    case AppUpdateAction::install: return qtTrId("updates.action.install");
-    case AppUpdateAction::openApp: return qtTrId("updates.action.open");
-    case AppUpdateAction::openStore: return qtTrId("updates.action.store");
-    case AppUpdateAction::copyCommand: return qtTrId("updates.action.copy");
+    case AppUpdateAction::install:
+        return qtTrId("updates.action.install");
+    case AppUpdateAction::openApp:
+        return qtTrId("updates.action.open");
+    case AppUpdateAction::openStore:
+        return qtTrId("updates.action.store");
+    case AppUpdateAction::copyCommand:
+        return qtTrId("updates.action.copy");
     }
     return {};
 }
@@ -31,11 +39,16 @@ QString actionText(AppUpdateAction action) {
 QString stateKind(UpdatesModel::RowState::Kind kind) {
     using Kind = UpdatesModel::RowState::Kind;
     switch (kind) {
-    case Kind::idle: return QStringLiteral("idle");
-    case Kind::working: return QStringLiteral("working");
-    case Kind::failed: return QStringLiteral("failed");
-    case Kind::installed: return QStringLiteral("installed");
-    case Kind::needsQuit: return QStringLiteral("needsQuit");
+    case Kind::idle:
+        return QStringLiteral("idle");
+    case Kind::working:
+        return QStringLiteral("working");
+    case Kind::failed:
+        return QStringLiteral("failed");
+    case Kind::installed:
+        return QStringLiteral("installed");
+    case Kind::needsQuit:
+        return QStringLiteral("needsQuit");
     }
     return {};
 }
@@ -43,17 +56,24 @@ QString stateKind(UpdatesModel::RowState::Kind kind) {
 QString stateText(const UpdatesModel::RowState& state) {
     using Kind = UpdatesModel::RowState::Kind;
     switch (state.kind) {
-    case Kind::idle: return {};
+    case Kind::idle:
+        return {};
     case Kind::working:
         switch (state.stage) {
-        case UpdatesModel::Stage::downloading: return qtTrId("updates.stage.downloading");
-        case UpdatesModel::Stage::verifying: return qtTrId("updates.stage.verifying");
-        case UpdatesModel::Stage::installing: return qtTrId("updates.stage.installing");
+        case UpdatesModel::Stage::downloading:
+            return qtTrId("updates.stage.downloading");
+        case UpdatesModel::Stage::verifying:
+            return qtTrId("updates.stage.verifying");
+        case UpdatesModel::Stage::installing:
+            return qtTrId("updates.stage.installing");
         }
         return {};
-    case Kind::failed: return state.failure;
-    case Kind::installed: return qtTrId("updates.row.installed");
-    case Kind::needsQuit: return qtTrId("updates.row.needsQuit");
+    case Kind::failed:
+        return state.failure;
+    case Kind::installed:
+        return qtTrId("updates.row.installed");
+    case Kind::needsQuit:
+        return qtTrId("updates.row.needsQuit");
     }
     return {};
 }
@@ -95,22 +115,37 @@ QVariant UpdateList::data(const QModelIndex& index, int role) const {
     if (!update)
         return {};
     switch (role) {
-    case UpdateIDRole: return ids[index.row()];
+    case UpdateIDRole:
+        return ids[index.row()];
     case Qt::DisplayRole:
-    case NameRole: return QString::fromStdString(update->name);
-    case CurrentVersionRole: return QString::fromStdString(update->currentVersion);
-    case NewVersionRole: return QString::fromStdString(update->newVersion);
-    case SourceTitleRole: return sourceTitle(update->source);
-    case ActionTextRole: return actionText(update->action());
-    case StateKindRole: return stateKind(updates->state(*update).kind);
-    case StateTextRole: return stateText(updates->state(*update));
-    case IsSelectableRole: return updates->isSelectable(*update);
-    case IsSelectedRole: return updates->isSelected(*update);
-    case NotesSummaryRole: return text(update->notesSummary());
-    case NotesRole: return text(update->notes);
-    case NotesLanguageRole: return text(update->notesLanguage);
-    case HasNotesURLRole: return update->notesURL.has_value();
-    default: return {};
+    case NameRole:
+        return QString::fromStdString(update->name);
+    case CurrentVersionRole:
+        return QString::fromStdString(update->currentVersion);
+    case NewVersionRole:
+        return QString::fromStdString(update->newVersion);
+    case SourceTitleRole:
+        return sourceTitle(update->source);
+    case ActionTextRole:
+        return actionText(update->action());
+    case StateKindRole:
+        return stateKind(updates->state(*update).kind);
+    case StateTextRole:
+        return stateText(updates->state(*update));
+    case IsSelectableRole:
+        return updates->isSelectable(*update);
+    case IsSelectedRole:
+        return updates->isSelected(*update);
+    case NotesSummaryRole:
+        return text(update->notesSummary());
+    case NotesRole:
+        return text(update->notes);
+    case NotesLanguageRole:
+        return text(update->notesLanguage);
+    case HasNotesURLRole:
+        return update->notesURL.has_value();
+    default:
+        return {};
     }
 }
 

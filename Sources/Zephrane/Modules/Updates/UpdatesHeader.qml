@@ -16,7 +16,7 @@ Row {
         spacing: 6
         Text {
             width: parent.width
-            text: root.model.visibleCount > 0 ? qsTrId("updates.outdated").arg(root.model.visibleCount)
+            text: root.model.pendingCount > 0 ? qsTrId("updates.outdated").arg(root.model.pendingCount)
                                                : qsTrId("updates.upToDate.title")
             color: PainelTheme.text
             font.family: PainelTheme.sansFamily

@@ -66,7 +66,6 @@ std::vector<CleanerCore::AppBundleInfo> bundles(const std::vector<InstalledApp>&
     return infos;
 }
 
-
 } // namespace
 
 UpdatesModel::Engine UpdatesModel::Engine::system() {
@@ -79,9 +78,12 @@ UpdatesModel::Engine UpdatesModel::Engine::system() {
     engine.find = [parts](Source source, const std::vector<InstalledApp>& apps, std::stop_token stop) {
         const auto& finder = *parts->finder;
         switch (source) {
-        case Source::appStore: return finder.appStoreUpdates(finder.plan(bundles(apps)).appStore, stop);
-        case Source::sparkle: return finder.sparkleUpdates(finder.plan(bundles(apps)).sparkle, stop);
-        case Source::homebrew: return finder.homebrewUpdates(finder.plan(bundles(apps)).others);
+        case Source::appStore:
+            return finder.appStoreUpdates(finder.plan(bundles(apps)).appStore, stop);
+        case Source::sparkle:
+            return finder.sparkleUpdates(finder.plan(bundles(apps)).sparkle, stop);
+        case Source::homebrew:
+            return finder.homebrewUpdates(finder.plan(bundles(apps)).others);
         case Source::flatpak: {
             std::vector<InstalledApp> flatpaks;
             std::ranges::copy_if(apps, std::back_inserter(flatpaks),
@@ -94,7 +96,10 @@ UpdatesModel::Engine UpdatesModel::Engine::system() {
     engine.install = [parts](const AppUpdate& update, const std::function<void(Stage)>& progress) {
         if (update.source != Source::flatpak) {
             parts->installer->install(
-                update, [](const std::string& id) { return CleanerCore::AppInventory::runningBundleIDs().contains(id); },
+                update,
+                [](const std::string& id) {
+                    return CleanerCore::AppInventory::runningBundleIDs().contains(id);
+                },
                 progress);
             return;
         }
@@ -106,14 +111,16 @@ UpdatesModel::Engine UpdatesModel::Engine::system() {
         }
         if (!offered)
             throw AppUpdateInstaller::Failure(AppUpdateInstaller::Failure::Kind::noDownload);
-        CleanerCore::Platform::installFlatpakUpdate(*offered, [&](CleanerCore::Platform::FlatpakUpdateStage stage) {
-            progress(stage == CleanerCore::Platform::FlatpakUpdateStage::downloading ? Stage::downloading
-                                                                                       : Stage::installing);
-        });
+        CleanerCore::Platform::installFlatpakUpdate(
+            *offered, [&](CleanerCore::Platform::FlatpakUpdateStage stage) {
+                progress(stage == CleanerCore::Platform::FlatpakUpdateStage::downloading ? Stage::downloading
+                                                                                         : Stage::installing);
+            });
     };
     engine.isRunning = [](const std::string& bundleID) {
         std::string lower = bundleID;
-        std::ranges::transform(lower, lower.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+        std::ranges::transform(lower, lower.begin(),
+                               [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
         return CleanerCore::AppInventory::runningBundleIDs().contains(lower);
     };
     engine.openURL = [](const QUrl& url) { QDesktopServices::openUrl(url); };
@@ -157,7 +164,8 @@ ScanPlan UpdatesModel::scanPlan() {
     const QString appsFound = qtTrId("updates.step.apps.found");
     const QString updatesFound = qtTrId("updates.step.found");
     const QLocale locale = PhaseFormat::locale();
-    plan.units.push_back({QStringLiteral("apps"), qtTrId("updates.step.apps"), QStringLiteral("~/Applications"),
+    plan.units.push_back({QStringLiteral("apps"), qtTrId("updates.step.apps"),
+                          QStringLiteral("~/Applications"),
                           [shared, apps, appsFound, locale](std::stop_token, ScanFeed&) {
                               shared->apps = apps();
                               const int count = static_cast<int>(shared->apps.size());
@@ -169,7 +177,8 @@ ScanPlan UpdatesModel::scanPlan() {
                                                     {Source::flatpak, QT_TRID_NOOP("updates.step.flatpak")}};
     for (const auto& [source, title] : steps) {
         auto find = engine.find;
-        plan.units.push_back({QString::fromUtf8(CleanerCore::rawValue(source).data()), qtTrId(title), QString(),
+        plan.units.push_back({QString::fromUtf8(CleanerCore::rawValue(source).data()), qtTrId(title),
+                              QString(),
                               [shared, find, source, updatesFound, locale](std::stop_token stop, ScanFeed&) {
                                   auto updates = find(source, shared->apps, stop);
                                   const int count = static_cast<int>(updates.size());
@@ -241,7 +250,9 @@ int UpdatesModel::selectedCount() const {
 
 void UpdatesModel::perform(const AppUpdate& update) {
     switch (update.action()) {
-    case AppUpdateAction::install: install({update}); return;
+    case AppUpdateAction::install:
+        install({update});
+        return;
     case AppUpdateAction::openStore:
         engine.openURL(update.storeURL ? QUrl(QString::fromStdString(update.storeURL->absoluteString()))
                                        : QUrl(QStringLiteral("macappstore://showUpdatesPage")));
@@ -262,6 +273,9 @@ void UpdatesModel::perform(const AppUpdate& update) {
 void UpdatesModel::setState(const QString& id, RowState state) {
     if (rowStates[id] == state)
         return;
+    // An installed app has nothing left to tick.
+    if (state.kind == RowState::Kind::installed)
+        chosen.erase(id.toStdString());
     rowStates[id] = std::move(state);
     emit statesChanged();
 }
@@ -299,7 +313,8 @@ QFuture<void> UpdatesModel::install(std::vector<AppUpdate> list) {
                 if (failure.kind() == AppUpdateInstaller::Failure::Kind::appRunning)
                     post(id, {RowState::Kind::needsQuit});
                 else
-                    post(id, {RowState::Kind::failed, Stage::downloading, describe(std::current_exception())});
+                    post(id,
+                         {RowState::Kind::failed, Stage::downloading, describe(std::current_exception())});
             } catch (...) {
                 post(id, {RowState::Kind::failed, Stage::downloading, describe(std::current_exception())});
             }
@@ -318,17 +333,26 @@ QString UpdatesModel::describe(const std::exception_ptr& error) {
         std::rethrow_exception(error);
     } catch (const AppUpdateInstaller::Failure& failure) {
         switch (failure.kind()) {
-        case Kind::swapFailed: return qtTrId("updates.failure.swap");
-        case Kind::noAppInArchive: return qtTrId("updates.failure.noApp");
-        case Kind::appRunning: return qtTrId("updates.row.needsQuit");
-        case Kind::bundleIDMismatch: return qtTrId("updates.failure.otherApp");
-        case Kind::notNewer: return qtTrId("updates.failure.notNewer");
-        case Kind::signatureInvalid: return qtTrId("updates.failure.signature");
-        case Kind::notNotarized: return qtTrId("updates.failure.notarization");
-        case Kind::teamMismatch: return qtTrId("updates.failure.team");
+        case Kind::swapFailed:
+            return qtTrId("updates.failure.swap");
+        case Kind::noAppInArchive:
+            return qtTrId("updates.failure.noApp");
+        case Kind::appRunning:
+            return qtTrId("updates.row.needsQuit");
+        case Kind::bundleIDMismatch:
+            return qtTrId("updates.failure.otherApp");
+        case Kind::notNewer:
+            return qtTrId("updates.failure.notNewer");
+        case Kind::signatureInvalid:
+            return qtTrId("updates.failure.signature");
+        case Kind::notNotarized:
+            return qtTrId("updates.failure.notarization");
+        case Kind::teamMismatch:
+            return qtTrId("updates.failure.team");
         case Kind::commandFailed:
         case Kind::noDownload:
-        case Kind::unsupportedArchive: break;
+        case Kind::unsupportedArchive:
+            break;
         }
     } catch (...) {
     }
@@ -408,8 +432,9 @@ QString UpdatesModel::checkedText() const {
     const auto toPoint = [](const QDateTime& date) {
         return std::chrono::system_clock::time_point(std::chrono::milliseconds(date.toMSecsSinceEpoch()));
     };
-    return qtTrId("updates.checked").arg(QString::fromStdString(CleanerCore::RelativeDate::string(
-        toPoint(*checked), toPoint(now), CleanerCore::CoreL10n::bundle())));
+    return qtTrId("updates.checked")
+        .arg(QString::fromStdString(CleanerCore::RelativeDate::string(toPoint(*checked), toPoint(now),
+                                                                      CleanerCore::CoreL10n::bundle())));
 }
 
 QString UpdatesModel::installAllText() const {
@@ -419,5 +444,5 @@ QString UpdatesModel::installAllText() const {
 }
 
 QString UpdatesModel::foundSpoken() const {
-    return qtTrId("updates.outdated").arg(PhaseFormat::locale().toString(visibleCount()));
+    return qtTrId("updates.outdated").arg(PhaseFormat::locale().toString(pendingCount().value_or(0)));
 }

@@ -57,8 +57,8 @@ public:
     // worker threads; `install` throws what the installer throws and reports stages from its thread.
     struct Engine {
         std::function<std::vector<CleanerCore::InstalledApp>()> apps;
-        std::function<std::vector<CleanerCore::AppUpdate>(Source, const std::vector<CleanerCore::InstalledApp>&,
-                                                          std::stop_token)>
+        std::function<std::vector<CleanerCore::AppUpdate>(
+            Source, const std::vector<CleanerCore::InstalledApp>&, std::stop_token)>
             find;
         std::function<void(const CleanerCore::AppUpdate&, const std::function<void(Stage)>&)> install;
         std::function<bool(const std::string& bundleID)> isRunning;

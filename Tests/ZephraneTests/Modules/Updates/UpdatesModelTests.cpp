@@ -58,8 +58,11 @@ struct Updates : testing::Test {
     UpdatesModel::Engine engine() {
         UpdatesModel::Engine canned;
         canned.apps = [] { return std::vector<CleanerCore::InstalledApp>(3); };
-        canned.find = [this](AppUpdateSource source, const auto&, std::stop_token) { return offered[source]; };
-        canned.install = [this](const AppUpdate& update, const std::function<void(UpdatesModel::Stage)>& progress) {
+        canned.find = [this](AppUpdateSource source, const auto&, std::stop_token) {
+            return offered[source];
+        };
+        canned.install = [this](const AppUpdate& update,
+                                const std::function<void(UpdatesModel::Stage)>& progress) {
             progress(UpdatesModel::Stage::verifying);
             {
                 std::lock_guard lock(mutex);
@@ -78,9 +81,10 @@ struct Updates : testing::Test {
     void SetUp() override {
         QSettings().clear();
         previousSink = Announcer::installSink([this](const QString& text) { spoken.push_back(text); });
-        offered[AppUpdateSource::sparkle] = {offer("Zeta", AppUpdateSource::sparkle, "2.0", "https://x.test/z.zip"),
-                                             offer("Beta", AppUpdateSource::sparkle, "3.0", "https://x.test/b.dmg"),
-                                             offer("Pkg", AppUpdateSource::sparkle, "5.0", "https://x.test/p.pkg")};
+        offered[AppUpdateSource::sparkle] = {
+            offer("Zeta", AppUpdateSource::sparkle, "2.0", "https://x.test/z.zip"),
+            offer("Beta", AppUpdateSource::sparkle, "3.0", "https://x.test/b.dmg"),
+            offer("Pkg", AppUpdateSource::sparkle, "5.0", "https://x.test/p.pkg")};
         offered[AppUpdateSource::homebrew] = {offer("Brewed", AppUpdateSource::homebrew, "4.0")};
         offered[AppUpdateSource::homebrew][0].caskToken = "brewed";
         offered[AppUpdateSource::appStore] = {offer("Stored", AppUpdateSource::appStore, "9.0")};
@@ -125,7 +129,8 @@ TEST_F(Updates, AScanJoinsTheSourcesSortedAndTicksOnlyWhatInstallsHere) {
         model->setSelected(row(name), true);
         EXPECT_FALSE(model->isSelected(row(name))) << name;
     }
-    EXPECT_EQ(row("Pkg").action(), CleanerCore::AppUpdateAction::openApp) << "a package download is not installed here";
+    EXPECT_EQ(row("Pkg").action(), CleanerCore::AppUpdateAction::openApp)
+        << "a package download is not installed here";
 
     EXPECT_EQ(preferences.updatesLastChecked(), now);
     EXPECT_EQ(model->checkedText(), qtTrId("updates.checked.now"));
@@ -162,9 +167,12 @@ TEST_F(Updates, IgnoringIsPerVersionStoredAndRestoreKeepsAbsentApps) {
 }
 
 TEST_F(Updates, ABatchGoesOnPastRunningAndFailingAppsInItsOrder) {
-    offered[AppUpdateSource::sparkle].push_back(offer("Alpha", AppUpdateSource::sparkle, "2.0", "https://x.test/a.zip"));
-    offered[AppUpdateSource::sparkle].push_back(offer("Gamma", AppUpdateSource::sparkle, "2.0", "https://x.test/g.zip"));
-    offered[AppUpdateSource::sparkle].push_back(offer("Delta", AppUpdateSource::sparkle, "2.0", "https://x.test/d.zip"));
+    offered[AppUpdateSource::sparkle].push_back(
+        offer("Alpha", AppUpdateSource::sparkle, "2.0", "https://x.test/a.zip"));
+    offered[AppUpdateSource::sparkle].push_back(
+        offer("Gamma", AppUpdateSource::sparkle, "2.0", "https://x.test/g.zip"));
+    offered[AppUpdateSource::sparkle].push_back(
+        offer("Delta", AppUpdateSource::sparkle, "2.0", "https://x.test/d.zip"));
     running = {"org.test.Beta"};
     outcome["Gamma"] = Failure(Failure::Kind::signatureInvalid);
     outcome["Delta"] = Failure(Failure::Kind::appRunning);
@@ -183,6 +191,8 @@ TEST_F(Updates, ABatchGoesOnPastRunningAndFailingAppsInItsOrder) {
     EXPECT_EQ(installedOrder, (std::vector<std::string>{"Alpha", "Delta", "Gamma", "Zeta"}))
         << "one after the other in list order, and a running app's download is never begun";
     EXPECT_EQ(state("Alpha"), Kind::installed);
+    EXPECT_FALSE(model->isSelected(row("Alpha"))) << "an installed app is not offered again";
+    EXPECT_EQ(model->selectedCount(), 4);
     EXPECT_EQ(state("Beta"), Kind::needsQuit);
     EXPECT_EQ(state("Delta"), Kind::needsQuit);
     EXPECT_EQ(state("Gamma"), Kind::failed);
@@ -210,7 +220,8 @@ TEST_F(Updates, RowsThatDoNotInstallOpenOrCopyInstead) {
     model->perform(row("Linked"));
     model->perform(row("Pkg"));
     ASSERT_EQ(opened.size(), 3u);
-    EXPECT_EQ(opened[0], QUrl(QStringLiteral("macappstore://showUpdatesPage"))) << "a store row without its page";
+    EXPECT_EQ(opened[0], QUrl(QStringLiteral("macappstore://showUpdatesPage")))
+        << "a store row without its page";
     EXPECT_EQ(opened[1], QUrl(QStringLiteral("https://apps.test/linked")));
     EXPECT_EQ(opened[2], QUrl::fromLocalFile(QStringLiteral("/Applications/Pkg.app")));
     EXPECT_TRUE(installedOrder.empty());
