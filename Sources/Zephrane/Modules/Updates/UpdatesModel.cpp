@@ -93,14 +93,17 @@ UpdatesModel::Engine UpdatesModel::Engine::system() {
         }
         return std::vector<AppUpdate>{};
     };
-    engine.install = [parts](const AppUpdate& update, const std::function<void(Stage)>& progress) {
+    // The running list holds identifiers in lower case.
+    engine.isRunning = [](const std::string& bundleID) {
+        std::string lower = bundleID;
+        std::ranges::transform(lower, lower.begin(),
+                               [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+        return CleanerCore::AppInventory::runningBundleIDs().contains(lower);
+    };
+    engine.install = [parts, isRunning = engine.isRunning](const AppUpdate& update,
+                                                           const std::function<void(Stage)>& progress) {
         if (update.source != Source::flatpak) {
-            parts->installer->install(
-                update,
-                [](const std::string& id) {
-                    return CleanerCore::AppInventory::runningBundleIDs().contains(id);
-                },
-                progress);
+            parts->installer->install(update, isRunning, progress);
             return;
         }
         std::optional<CleanerCore::Platform::FlatpakUpdate> offered;
@@ -116,12 +119,6 @@ UpdatesModel::Engine UpdatesModel::Engine::system() {
                 progress(stage == CleanerCore::Platform::FlatpakUpdateStage::downloading ? Stage::downloading
                                                                                          : Stage::installing);
             });
-    };
-    engine.isRunning = [](const std::string& bundleID) {
-        std::string lower = bundleID;
-        std::ranges::transform(lower, lower.begin(),
-                               [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-        return CleanerCore::AppInventory::runningBundleIDs().contains(lower);
     };
     engine.openURL = [](const QUrl& url) { QDesktopServices::openUrl(url); };
     engine.copyText = [](const QString& text) {
