@@ -83,10 +83,6 @@
         <source>Updates</source>
         <translation>Updates</translation>
     </message>
-    <message id="shell.channel.notBuilt">
-        <source>This channel is not available in this version yet.</source>
-        <translation>This channel is not available in this version yet.</translation>
-    </message>
     <message id="shell.disk.label">
         <source>Disk</source>
         <translation>Disk</translation>
@@ -1439,10 +1435,6 @@
         <source>Everything up to date</source>
         <translation>Everything up to date</translation>
     </message>
-    <message id="home.reading.soon">
-        <source>Coming soon</source>
-        <translation>Coming soon</translation>
-    </message>
     <message id="home.scan.done">
         <source>Smart scan finished: %1 found</source>
         <translation>Smart scan finished: %1 found</translation>
@@ -1818,6 +1810,254 @@
     <message id="onboarding.ready.firstScan">
         <source>The first scan looks for junk and leftovers; it removes nothing.</source>
         <translation>The first scan looks for junk and leftovers; it removes nothing.</translation>
+    </message>
+    <message id="updates.idle.message">
+        <source>Check which of your apps have a newer version.</source>
+        <translation>Check which of your apps have a newer version.</translation>
+    </message>
+    <message id="updates.step.apps">
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message id="updates.step.apps.found">
+        <source>%1 apps</source>
+        <translation>%1 apps</translation>
+    </message>
+    <message id="updates.step.appStore">
+        <source>App Store</source>
+        <translation>App Store</translation>
+    </message>
+    <message id="updates.step.sparkle">
+        <source>Update feeds</source>
+        <translation>Update feeds</translation>
+    </message>
+    <message id="updates.step.homebrew">
+        <source>Homebrew</source>
+        <translation>Homebrew</translation>
+    </message>
+    <message id="updates.step.flatpak">
+        <source>Flatpak</source>
+        <translation>Flatpak</translation>
+    </message>
+    <message id="updates.step.found">
+        <source>%1 found</source>
+        <translation>%1 found</translation>
+    </message>
+    <message id="updates.source.sparkle">
+        <source>Update feed</source>
+        <translation>Update feed</translation>
+    </message>
+    <message id="updates.source.appStore">
+        <source>App Store</source>
+        <translation>App Store</translation>
+    </message>
+    <message id="updates.source.homebrew">
+        <source>Homebrew</source>
+        <translation>Homebrew</translation>
+    </message>
+    <message id="updates.source.flatpak">
+        <source>Flatpak</source>
+        <translation>Flatpak</translation>
+    </message>
+    <message id="updates.action.install">
+        <source>Install</source>
+        <translation>Install</translation>
+    </message>
+    <message id="updates.action.open">
+        <source>Open app</source>
+        <translation>Open app</translation>
+    </message>
+    <message id="updates.action.store">
+        <source>Open store</source>
+        <translation>Open store</translation>
+    </message>
+    <message id="updates.action.copy">
+        <source>Copy command</source>
+        <translation>Copy command</translation>
+    </message>
+    <message id="updates.stage.downloading">
+        <source>Downloading…</source>
+        <translation>Downloading…</translation>
+    </message>
+    <message id="updates.stage.verifying">
+        <source>Verifying…</source>
+        <translation>Verifying…</translation>
+    </message>
+    <message id="updates.stage.installing">
+        <source>Installing…</source>
+        <translation>Installing…</translation>
+    </message>
+    <message id="updates.row.installed">
+        <source>Installed</source>
+        <translation>Installed</translation>
+    </message>
+    <message id="updates.row.needsQuit">
+        <source>Quit the app to update it</source>
+        <translation>Quit the app to update it</translation>
+    </message>
+    <message id="updates.failure.swap">
+        <source>Could not replace the app</source>
+        <translation>Could not replace the app</translation>
+    </message>
+    <message id="updates.failure.noApp">
+        <source>The download has no app in it</source>
+        <translation>The download has no app in it</translation>
+    </message>
+    <message id="updates.failure.otherApp">
+        <source>The download is a different app</source>
+        <translation>The download is a different app</translation>
+    </message>
+    <message id="updates.failure.notNewer">
+        <source>The download is not newer</source>
+        <translation>The download is not newer</translation>
+    </message>
+    <message id="updates.failure.signature">
+        <source>The signature could not be verified</source>
+        <translation>The signature could not be verified</translation>
+    </message>
+    <message id="updates.failure.notarization">
+        <source>The download is not notarized</source>
+        <translation>The download is not notarized</translation>
+    </message>
+    <message id="updates.failure.team">
+        <source>The developer does not match</source>
+        <translation>The developer does not match</translation>
+    </message>
+    <message id="updates.failure.download">
+        <source>The download failed</source>
+        <translation>The download failed</translation>
+    </message>
+    <message id="updates.announce.copied">
+        <source>Command copied. Paste it in a terminal.</source>
+        <translation>Command copied. Paste it in a terminal.</translation>
+    </message>
+    <message id="updates.announce.opened">
+        <source>Opened %1</source>
+        <translation>Opened %1</translation>
+    </message>
+    <message id="updates.announce.ignored">
+        <source>%1: this version is ignored</source>
+        <translation>%1: this version is ignored</translation>
+    </message>
+    <message id="updates.announce.finished">
+        <source>Updates finished: %1</source>
+        <translation>Updates finished: %1</translation>
+    </message>
+    <message id="updates.column.app">
+        <source>App</source>
+        <translation>App</translation>
+    </message>
+    <message id="updates.column.version">
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message id="updates.column.source">
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message id="updates.column.action">
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message id="updates.installAll">
+        <source>Install %1</source>
+        <translation>Install %1</translation>
+    </message>
+    <message id="updates.installAll.none">
+        <source>Install</source>
+        <translation>Install</translation>
+    </message>
+    <message id="updates.confirm.title">
+        <source>Updates to install: %1</source>
+        <translation>Updates to install: %1</translation>
+    </message>
+    <message id="updates.confirm.message">
+        <source>Each app is downloaded, checked and replaced in turn. The old copy goes to the Trash.</source>
+        <translation>Each app is downloaded, checked and replaced in turn. The old copy goes to the Trash.</translation>
+    </message>
+    <message id="updates.confirm.cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="updates.confirm.install">
+        <source>Install</source>
+        <translation>Install</translation>
+    </message>
+    <message id="updates.rescan">
+        <source>Check again</source>
+        <translation>Check again</translation>
+    </message>
+    <message id="updates.upToDate.title">
+        <source>All apps are up to date</source>
+        <translation>All apps are up to date</translation>
+    </message>
+    <message id="updates.upToDate.message">
+        <source>No newer versions were found for your apps.</source>
+        <translation>No newer versions were found for your apps.</translation>
+    </message>
+    <message id="updates.ignored">
+        <source>%1 ignored</source>
+        <translation>%1 ignored</translation>
+    </message>
+    <message id="updates.ignored.restore">
+        <source>Show ignored</source>
+        <translation>Show ignored</translation>
+    </message>
+    <message id="updates.notify.title">
+        <source>Tell me about outdated apps</source>
+        <translation>Tell me about outdated apps</translation>
+    </message>
+    <message id="updates.notify.detail">
+        <source>A daily notice when updates are waiting</source>
+        <translation>A daily notice when updates are waiting</translation>
+    </message>
+    <message id="updates.outdated">
+        <source>Outdated apps: %1</source>
+        <translation>Outdated apps: %1</translation>
+    </message>
+    <message id="updates.outdated.label">
+        <source>Outdated</source>
+        <translation>Outdated</translation>
+    </message>
+    <message id="updates.checked">
+        <source>Last checked %1</source>
+        <translation>Last checked %1</translation>
+    </message>
+    <message id="updates.checked.now">
+        <source>Checked just now</source>
+        <translation>Checked just now</translation>
+    </message>
+    <message id="updates.checked.never">
+        <source>Never checked</source>
+        <translation>Never checked</translation>
+    </message>
+    <message id="updates.menu.notes">
+        <source>Release notes (N)</source>
+        <translation>Release notes (N)</translation>
+    </message>
+    <message id="updates.menu.ignore">
+        <source>Ignore this version (I)</source>
+        <translation>Ignore this version (I)</translation>
+    </message>
+    <message id="updates.notes.title">
+        <source>Release notes</source>
+        <translation>Release notes</translation>
+    </message>
+    <message id="updates.notes.language">
+        <source>Language: %1</source>
+        <translation>Language: %1</translation>
+    </message>
+    <message id="updates.notes.empty">
+        <source>This update has no notes.</source>
+        <translation>This update has no notes.</translation>
+    </message>
+    <message id="updates.notes.open">
+        <source>Open full notes</source>
+        <translation>Open full notes</translation>
+    </message>
+    <message id="updates.notes.close">
+        <source>Close</source>
+        <translation>Close</translation>
     </message>
 </context>
 </TS>

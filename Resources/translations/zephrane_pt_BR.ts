@@ -83,10 +83,6 @@
         <source>Updates</source>
         <translation>Atualizações</translation>
     </message>
-    <message id="shell.channel.notBuilt">
-        <source>This channel is not available in this version yet.</source>
-        <translation>Este canal ainda não está disponível nesta versão.</translation>
-    </message>
     <message id="shell.disk.label">
         <source>Disk</source>
         <translation>Disco</translation>
@@ -1439,10 +1435,6 @@
         <source>Everything up to date</source>
         <translation>Tudo atualizado</translation>
     </message>
-    <message id="home.reading.soon">
-        <source>Coming soon</source>
-        <translation>Em breve</translation>
-    </message>
     <message id="home.scan.done">
         <source>Smart scan finished: %1 found</source>
         <translation>Análise inteligente concluída: %1 encontrados</translation>
@@ -1818,6 +1810,254 @@
     <message id="onboarding.ready.firstScan">
         <source>The first scan looks for junk and leftovers; it removes nothing.</source>
         <translation>A primeira análise procura lixo e restos; não remove nada.</translation>
+    </message>
+    <message id="updates.idle.message">
+        <source>Check which of your apps have a newer version.</source>
+        <translation>Veja quais dos seus apps têm uma versão mais nova.</translation>
+    </message>
+    <message id="updates.step.apps">
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message id="updates.step.apps.found">
+        <source>%1 apps</source>
+        <translation>%1 apps</translation>
+    </message>
+    <message id="updates.step.appStore">
+        <source>App Store</source>
+        <translation>App Store</translation>
+    </message>
+    <message id="updates.step.sparkle">
+        <source>Update feeds</source>
+        <translation>Feeds de atualização</translation>
+    </message>
+    <message id="updates.step.homebrew">
+        <source>Homebrew</source>
+        <translation>Homebrew</translation>
+    </message>
+    <message id="updates.step.flatpak">
+        <source>Flatpak</source>
+        <translation>Flatpak</translation>
+    </message>
+    <message id="updates.step.found">
+        <source>%1 found</source>
+        <translation>%1 encontradas</translation>
+    </message>
+    <message id="updates.source.sparkle">
+        <source>Update feed</source>
+        <translation>Feed do app</translation>
+    </message>
+    <message id="updates.source.appStore">
+        <source>App Store</source>
+        <translation>App Store</translation>
+    </message>
+    <message id="updates.source.homebrew">
+        <source>Homebrew</source>
+        <translation>Homebrew</translation>
+    </message>
+    <message id="updates.source.flatpak">
+        <source>Flatpak</source>
+        <translation>Flatpak</translation>
+    </message>
+    <message id="updates.action.install">
+        <source>Install</source>
+        <translation>Instalar</translation>
+    </message>
+    <message id="updates.action.open">
+        <source>Open app</source>
+        <translation>Abrir app</translation>
+    </message>
+    <message id="updates.action.store">
+        <source>Open store</source>
+        <translation>Abrir loja</translation>
+    </message>
+    <message id="updates.action.copy">
+        <source>Copy command</source>
+        <translation>Copiar comando</translation>
+    </message>
+    <message id="updates.stage.downloading">
+        <source>Downloading…</source>
+        <translation>Baixando…</translation>
+    </message>
+    <message id="updates.stage.verifying">
+        <source>Verifying…</source>
+        <translation>Verificando…</translation>
+    </message>
+    <message id="updates.stage.installing">
+        <source>Installing…</source>
+        <translation>Instalando…</translation>
+    </message>
+    <message id="updates.row.installed">
+        <source>Installed</source>
+        <translation>Instalado</translation>
+    </message>
+    <message id="updates.row.needsQuit">
+        <source>Quit the app to update it</source>
+        <translation>Feche o app para atualizá-lo</translation>
+    </message>
+    <message id="updates.failure.swap">
+        <source>Could not replace the app</source>
+        <translation>Não foi possível substituir o app</translation>
+    </message>
+    <message id="updates.failure.noApp">
+        <source>The download has no app in it</source>
+        <translation>O download não contém o app</translation>
+    </message>
+    <message id="updates.failure.otherApp">
+        <source>The download is a different app</source>
+        <translation>O download é de outro app</translation>
+    </message>
+    <message id="updates.failure.notNewer">
+        <source>The download is not newer</source>
+        <translation>O download não é mais novo</translation>
+    </message>
+    <message id="updates.failure.signature">
+        <source>The signature could not be verified</source>
+        <translation>Não foi possível verificar a assinatura</translation>
+    </message>
+    <message id="updates.failure.notarization">
+        <source>The download is not notarized</source>
+        <translation>O download não é autenticado</translation>
+    </message>
+    <message id="updates.failure.team">
+        <source>The developer does not match</source>
+        <translation>O desenvolvedor não confere</translation>
+    </message>
+    <message id="updates.failure.download">
+        <source>The download failed</source>
+        <translation>O download falhou</translation>
+    </message>
+    <message id="updates.announce.copied">
+        <source>Command copied. Paste it in a terminal.</source>
+        <translation>Comando copiado. Cole-o em um terminal.</translation>
+    </message>
+    <message id="updates.announce.opened">
+        <source>Opened %1</source>
+        <translation>%1 aberto</translation>
+    </message>
+    <message id="updates.announce.ignored">
+        <source>%1: this version is ignored</source>
+        <translation>%1: esta versão será ignorada</translation>
+    </message>
+    <message id="updates.announce.finished">
+        <source>Updates finished: %1</source>
+        <translation>Atualizações concluídas: %1</translation>
+    </message>
+    <message id="updates.column.app">
+        <source>App</source>
+        <translation>App</translation>
+    </message>
+    <message id="updates.column.version">
+        <source>Version</source>
+        <translation>Versão</translation>
+    </message>
+    <message id="updates.column.source">
+        <source>Source</source>
+        <translation>Origem</translation>
+    </message>
+    <message id="updates.column.action">
+        <source>Action</source>
+        <translation>Ação</translation>
+    </message>
+    <message id="updates.installAll">
+        <source>Install %1</source>
+        <translation>Instalar %1</translation>
+    </message>
+    <message id="updates.installAll.none">
+        <source>Install</source>
+        <translation>Instalar</translation>
+    </message>
+    <message id="updates.confirm.title">
+        <source>Updates to install: %1</source>
+        <translation>Atualizações a instalar: %1</translation>
+    </message>
+    <message id="updates.confirm.message">
+        <source>Each app is downloaded, checked and replaced in turn. The old copy goes to the Trash.</source>
+        <translation>Cada app é baixado, verificado e substituído, um por vez. A cópia antiga vai para a Lixeira.</translation>
+    </message>
+    <message id="updates.confirm.cancel">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="updates.confirm.install">
+        <source>Install</source>
+        <translation>Instalar</translation>
+    </message>
+    <message id="updates.rescan">
+        <source>Check again</source>
+        <translation>Verificar de novo</translation>
+    </message>
+    <message id="updates.upToDate.title">
+        <source>All apps are up to date</source>
+        <translation>Todos os apps estão atualizados</translation>
+    </message>
+    <message id="updates.upToDate.message">
+        <source>No newer versions were found for your apps.</source>
+        <translation>Não há versões mais novas dos seus apps.</translation>
+    </message>
+    <message id="updates.ignored">
+        <source>%1 ignored</source>
+        <translation>%1 ignoradas</translation>
+    </message>
+    <message id="updates.ignored.restore">
+        <source>Show ignored</source>
+        <translation>Mostrar ignoradas</translation>
+    </message>
+    <message id="updates.notify.title">
+        <source>Tell me about outdated apps</source>
+        <translation>Avisar sobre apps desatualizados</translation>
+    </message>
+    <message id="updates.notify.detail">
+        <source>A daily notice when updates are waiting</source>
+        <translation>Um aviso diário quando houver atualizações</translation>
+    </message>
+    <message id="updates.outdated">
+        <source>Outdated apps: %1</source>
+        <translation>Apps desatualizados: %1</translation>
+    </message>
+    <message id="updates.outdated.label">
+        <source>Outdated</source>
+        <translation>Desatualizados</translation>
+    </message>
+    <message id="updates.checked">
+        <source>Last checked %1</source>
+        <translation>Última verificação %1</translation>
+    </message>
+    <message id="updates.checked.now">
+        <source>Checked just now</source>
+        <translation>Verificado agora mesmo</translation>
+    </message>
+    <message id="updates.checked.never">
+        <source>Never checked</source>
+        <translation>Nunca verificado</translation>
+    </message>
+    <message id="updates.menu.notes">
+        <source>Release notes (N)</source>
+        <translation>Notas da versão (N)</translation>
+    </message>
+    <message id="updates.menu.ignore">
+        <source>Ignore this version (I)</source>
+        <translation>Ignorar esta versão (I)</translation>
+    </message>
+    <message id="updates.notes.title">
+        <source>Release notes</source>
+        <translation>Notas da versão</translation>
+    </message>
+    <message id="updates.notes.language">
+        <source>Language: %1</source>
+        <translation>Idioma: %1</translation>
+    </message>
+    <message id="updates.notes.empty">
+        <source>This update has no notes.</source>
+        <translation>Esta atualização não tem notas.</translation>
+    </message>
+    <message id="updates.notes.open">
+        <source>Open full notes</source>
+        <translation>Abrir notas completas</translation>
+    </message>
+    <message id="updates.notes.close">
+        <source>Close</source>
+        <translation>Fechar</translation>
     </message>
 </context>
 </TS>

@@ -11,8 +11,8 @@ AppModel::AppModel(QObject* parent)
     : QObject(parent), settings(new Preferences(this)), junkModel(new SystemJunkModel(*settings, this)),
       lens(new SpaceLensModel(*settings, this)), largeModel(new LargeFilesModel(*settings, this)),
       appsModel(new UninstallerModel(*settings, this)), leftoversModel(new LeftoversModel(*settings, this)),
-      trashModel(new TrashModel(*settings, this)), channelList(new ChannelList(*this, this)),
-      homeModel(new HomeModel(*this, this)) {
+      trashModel(new TrashModel(*settings, this)), updatesModel(new UpdatesModel(*settings, this)),
+      channelList(new ChannelList(*this, this)), homeModel(new HomeModel(*this, this)) {
     for (ModulePhaseModel* channel :
          std::initializer_list<ModulePhaseModel*>{junkModel, largeModel, appsModel, leftoversModel})
         channel->actions()->setEmptyTrash([this] { open(Channel::trash); });

@@ -11,6 +11,7 @@
 #include "Modules/Leftovers/LeftoversModel.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 #include "Modules/Trash/TrashModel.hpp"
+#include "Modules/Updates/UpdatesModel.hpp"
 
 #include <QDateTime>
 #include <QFuture>
@@ -35,6 +36,7 @@ class AppModel : public QObject {
     Q_PROPERTY(LeftoversModel* leftovers READ leftovers CONSTANT)
     Q_PROPERTY(TrashModel* trash READ trash CONSTANT)
     Q_PROPERTY(bool trayAvailable READ trayAvailable NOTIFY trayAvailableChanged)
+    Q_PROPERTY(UpdatesModel* updates READ updates CONSTANT)
     Q_PROPERTY(QDateTime smartScanStartedAt READ smartScanStartedAt WRITE setSmartScanStartedAt NOTIFY
                    smartScanChanged)
     Q_PROPERTY(bool isSmartScanning READ isSmartScanning NOTIFY smartScanningChanged)
@@ -62,6 +64,7 @@ public:
     UninstallerModel* uninstaller() const { return appsModel; }
     LeftoversModel* leftovers() const { return leftoversModel; }
     TrashModel* trash() const { return trashModel; }
+    UpdatesModel* updates() const { return updatesModel; }
 
     // Whether the desktop offers a tray; without one the agent cannot hold the program.
     bool trayAvailable() const { return hasTray; }
@@ -97,6 +100,7 @@ private:
     UninstallerModel* appsModel;
     LeftoversModel* leftoversModel;
     TrashModel* trashModel;
+    UpdatesModel* updatesModel;
     ChannelList* channelList;
     HomeModel* homeModel;
 

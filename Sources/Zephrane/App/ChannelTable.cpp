@@ -7,9 +7,6 @@
 namespace ChannelTable {
 namespace {
 
-// A channel that is not built yet shows its title and nothing that pretends to work.
-constexpr const char* placeholder = "App/ChannelPlaceholder.qml";
-
 constexpr std::array<ChannelRow, 8> table{{
     {Channel::home, QT_TRID_NOOP("channel.home.short"), QT_TRID_NOOP("channel.home.title"),
      "Modules/Home/HomeChannel.qml", [](const AppModel& app) -> QObject* { return app.home(); }},
@@ -22,11 +19,12 @@ constexpr std::array<ChannelRow, 8> table{{
     {Channel::apps, QT_TRID_NOOP("channel.apps.short"), QT_TRID_NOOP("channel.apps.title"),
      "Modules/Apps/AppsChannel.qml", [](const AppModel& app) -> QObject* { return app.uninstaller(); }},
     {Channel::leftovers, QT_TRID_NOOP("channel.leftovers.short"), QT_TRID_NOOP("channel.leftovers.title"),
-     "Modules/Leftovers/LeftoversChannel.qml", [](const AppModel& app) -> QObject* { return app.leftovers(); }},
+     "Modules/Leftovers/LeftoversChannel.qml",
+     [](const AppModel& app) -> QObject* { return app.leftovers(); }},
     {Channel::trash, QT_TRID_NOOP("channel.trash.short"), QT_TRID_NOOP("channel.trash.title"),
      "Modules/Trash/TrashChannel.qml", [](const AppModel& app) -> QObject* { return app.trash(); }},
-    {Channel::updates, QT_TRID_NOOP("channel.updates.short"), QT_TRID_NOOP("channel.updates.title"), placeholder,
-     nullptr},
+    {Channel::updates, QT_TRID_NOOP("channel.updates.short"), QT_TRID_NOOP("channel.updates.title"),
+     "Modules/Updates/UpdatesChannel.qml", [](const AppModel& app) -> QObject* { return app.updates(); }},
 }};
 
 constexpr bool inColumnOrder() {

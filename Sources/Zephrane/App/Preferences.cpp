@@ -52,10 +52,12 @@ void Preferences::setNotifyOutdatedApps(bool on) {
 }
 
 CleanDestination Preferences::cleanDestination() const {
-    return CleanDestinations::fromRaw(stored(cleanDestinationKey).toString()).value_or(CleanDestination::trash);
+    return CleanDestinations::fromRaw(stored(cleanDestinationKey).toString())
+        .value_or(CleanDestination::trash);
 }
 void Preferences::setCleanDestination(CleanDestination destination) {
-    write(cleanDestinationKey, CleanDestinations::rawValue(destination), &Preferences::cleanDestinationChanged);
+    write(cleanDestinationKey, CleanDestinations::rawValue(destination),
+          &Preferences::cleanDestinationChanged);
 }
 void Preferences::setCleanDestinationRaw(const QString& raw) {
     if (auto destination = CleanDestinations::fromRaw(raw))
@@ -78,4 +80,25 @@ bool Preferences::onboardingDone() const {
 }
 void Preferences::setOnboardingDone(bool done) {
     write(onboardingDoneKey, done, &Preferences::onboardingDoneChanged);
+}
+
+std::map<std::string, std::string> Preferences::ignoredUpdateVersions() const {
+    std::map<std::string, std::string> versions;
+    const QVariantMap stored = QSettings().value(QLatin1String(ignoredUpdateVersionsKey)).toMap();
+    for (auto it = stored.begin(); it != stored.end(); ++it)
+        versions[it.key().toStdString()] = it.value().toString().toStdString();
+    return versions;
+}
+void Preferences::setIgnoredUpdateVersions(const std::map<std::string, std::string>& versions) {
+    QVariantMap map;
+    for (const auto& [key, version] : versions)
+        map.insert(QString::fromStdString(key), QString::fromStdString(version));
+    QSettings().setValue(QLatin1String(ignoredUpdateVersionsKey), map);
+}
+
+QDateTime Preferences::updatesLastChecked() const {
+    return QSettings().value(QLatin1String(updatesLastCheckedKey)).toDateTime();
+}
+void Preferences::setUpdatesLastChecked(const QDateTime& when) {
+    QSettings().setValue(QLatin1String(updatesLastCheckedKey), when);
 }

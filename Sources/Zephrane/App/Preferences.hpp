@@ -3,9 +3,13 @@
 #include "Modules/Shared/CleanDestination.hpp"
 #include "Painel/PainelAccent.hpp"
 
+#include <QDateTime>
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
+
+#include <map>
+#include <string>
 
 // The settings the user makes once, under their fixed keys in the application's settings, each
 // with its default when never written. The only reader and writer of those keys: the composition
@@ -15,7 +19,8 @@ class Preferences : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The application model owns the preferences")
-    Q_PROPERTY(bool showMenuBarAgent READ showMenuBarAgent WRITE setShowMenuBarAgent NOTIFY showMenuBarAgentChanged)
+    Q_PROPERTY(
+        bool showMenuBarAgent READ showMenuBarAgent WRITE setShowMenuBarAgent NOTIFY showMenuBarAgentChanged)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
     Q_PROPERTY(bool notifyOutdatedApps READ notifyOutdatedApps WRITE setNotifyOutdatedApps NOTIFY
                    notifyOutdatedAppsChanged)
@@ -31,6 +36,8 @@ public:
     static constexpr const char* cleanDestinationKey = "cleanDestination";
     static constexpr const char* accentKey = "accent";
     static constexpr const char* onboardingDoneKey = "onboardingDone";
+    static constexpr const char* ignoredUpdateVersionsKey = "updates.ignoredVersions";
+    static constexpr const char* updatesLastCheckedKey = "updates.lastChecked";
 
     explicit Preferences(QObject* parent = nullptr);
 
@@ -56,6 +63,12 @@ public:
     void setAccentRaw(const QString& raw);
     bool onboardingDone() const;
     void setOnboardingDone(bool done);
+    // Ignore key -> ignored version.
+    std::map<std::string, std::string> ignoredUpdateVersions() const;
+    void setIgnoredUpdateVersions(const std::map<std::string, std::string>& versions);
+    // Invalid when never checked.
+    QDateTime updatesLastChecked() const;
+    void setUpdatesLastChecked(const QDateTime& when);
 
 signals:
     void showMenuBarAgentChanged();

@@ -12,14 +12,12 @@ class ChannelReading {
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QString text MEMBER text)
     Q_PROPERTY(bool lit MEMBER lit)
-    Q_PROPERTY(bool soon MEMBER soon)
 
 public:
     int channel = 0; // the channel's raw value
     QString title; // the channel's short name, for the card
     QString text;
     bool lit = false;  // it found something worth a look
-    bool soon = false; // the channel is not built yet
 
     bool operator==(const ChannelReading&) const = default;
 };

@@ -25,11 +25,13 @@ bool hasResults(const ModulePhaseModel& model) {
 
 HomeModel::HomeModel(AppModel& app, QObject* parent) : QObject(parent), app(app) {
     for (ModulePhaseModel* model : std::initializer_list<ModulePhaseModel*>{
-             app.junk(), app.spaceLens(), app.large(), app.uninstaller(), app.leftovers(), app.trash()}) {
+             app.junk(), app.spaceLens(), app.large(), app.uninstaller(), app.leftovers(), app.trash(),
+             app.updates()}) {
         connect(model, &ModulePhaseModel::phaseChanged, this, &HomeModel::changed);
         connect(model, &ModulePhaseModel::resultsChanged, this, &HomeModel::changed);
     }
     connect(app.trash(), &TrashModel::accessChanged, this, &HomeModel::changed);
+    connect(app.updates(), &UpdatesModel::statesChanged, this, &HomeModel::changed);
     connect(&app, &AppModel::smartScanChanged, this, &HomeModel::changed);
     connect(&app, &AppModel::smartScanningChanged, this, [this] {
         if (diskRead)
@@ -76,7 +78,7 @@ HomeSnapshot HomeModel::snapshot() const {
 }
 
 ChannelReading HomeModel::bytesReading(Channel channel, const ModulePhaseModel& model) const {
-    ChannelReading reading{Channels::rawValue(channel), Channels::shortLabel(channel), {}, false, false};
+    ChannelReading reading{Channels::rawValue(channel), Channels::shortLabel(channel), {}, false};
     if (model.phase() == ModulePhase::scanning)
         reading.text = qtTrId("home.reading.scanning");
     else if (!hasResults(model))
@@ -90,7 +92,7 @@ ChannelReading HomeModel::bytesReading(Channel channel, const ModulePhaseModel& 
 }
 
 ChannelReading HomeModel::reading(Channel channel) const {
-    ChannelReading reading{Channels::rawValue(channel), Channels::shortLabel(channel), {}, false, false};
+    ChannelReading reading{Channels::rawValue(channel), Channels::shortLabel(channel), {}, false};
     auto otherwise = [&](const ModulePhaseModel& model) {
         reading.text = qtTrId(model.phase() == ModulePhase::scanning ? "home.reading.scanning"
                                                                       : "home.reading.notScanned");
@@ -135,10 +137,15 @@ ChannelReading HomeModel::reading(Channel channel) const {
             reading.text = qtTrId("home.reading.trash.empty");
         return reading;
     }
-    case Channel::updates:
-        reading.text = qtTrId("home.reading.soon");
-        reading.soon = true;
+    case Channel::updates: {
+        const std::optional<int> pending = app.updates()->pendingCount();
+        if (!pending)
+            return otherwise(*app.updates());
+        reading.text = *pending > 0 ? qtTrId("home.reading.updates").arg(locale.toString(*pending))
+                                    : qtTrId("home.reading.upToDate");
+        reading.lit = *pending > 0;
         return reading;
+    }
     }
     return reading;
 }

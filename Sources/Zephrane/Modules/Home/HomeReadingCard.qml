@@ -12,7 +12,6 @@ Rectangle {
     radius: 6
     color: mouse.containsMouse ? PainelTheme.raised : PainelTheme.panel
     border.color: modelData.lit ? PainelTheme.accent : PainelTheme.border
-    opacity: modelData.soon ? 0.6 : 1
     activeFocusOnTab: true
 
     Keys.onReturnPressed: root.activated(modelData.channel)
