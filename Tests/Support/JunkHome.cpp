@@ -49,4 +49,9 @@ void buildJunkHome(const fs::path& home) {
     write(home, "Downloads/Keynote.download/Contents/piece", 16);
 }
 
+void removeJunkHome(const std::filesystem::path& home) {
+    for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
+        std::filesystem::remove_all(home / top);
+}
+
 } // namespace TestSupport

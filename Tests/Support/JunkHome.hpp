@@ -10,5 +10,7 @@ namespace TestSupport {
 // Sizes are far apart, so that the order by size does not hang on the file system's block size:
 // "com.example.app" (the largest cache) > "com.example.tool" > ".hidden-cache".
 void buildJunkHome(const std::filesystem::path& home);
+// Takes away what buildJunkHome made.
+void removeJunkHome(const std::filesystem::path& home);
 
 } // namespace TestSupport

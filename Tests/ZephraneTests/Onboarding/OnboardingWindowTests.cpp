@@ -6,8 +6,6 @@
 #include "Onboarding/OnboardingFlow.hpp"
 #include "Support/QmlTestSupport.hpp"
 
-#include <QDir>
-#include <QProcess>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -22,22 +20,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path testHome() {
-    const fs::path home = QDir::homePath().toStdString();
-    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
-        std::abort(); // never anywhere near a real home
-    return home;
-}
-
-void removeFixture() {
-    for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
-        fs::remove_all(testHome() / top);
-}
-
-bool shown(QQuickWindow* window, const QString& name) {
-    QQuickItem* item = QmlTestSupport::findItem(window->contentItem(), name, true);
-    return item && item->isVisible();
-}
+using QmlTestSupport::shown;
+using QmlTestSupport::testHome;
 
 // Tab until the named control holds the focus, as a keyboard user would.
 bool tabTo(QQuickWindow* window, const QString& name) {
@@ -81,12 +65,10 @@ TEST(OnboardingFlow, StepsWalkInOrderAndEachMoveIsAnnounced) {
 
 namespace {
 
-constexpr const char* childLanguage = "ZEPHRANE_ONBOARDING_WINDOW_LANGUAGE";
-
 // The whole first run by keyboard alone, in the real window, down to the first smart scan's results;
 // then the welcome is reopened and finished without a scan.
 void walkOnboarding(const QString& language) {
-    removeFixture();
+    TestSupport::removeJunkHome(testHome());
     TestSupport::buildJunkHome(testHome());
     QmlTestSupport::useLanguage(language);
     FullDiskAccessMonitor::shared().refresh();
@@ -161,7 +143,7 @@ void walkOnboarding(const QString& language) {
     QSettings().remove(Preferences::showMenuBarAgentKey);
     QSettings().setValue(Preferences::onboardingDoneKey, true);
     warnings.expectNone();
-    removeFixture();
+    TestSupport::removeJunkHome(testHome());
 }
 
 } // namespace
@@ -172,18 +154,5 @@ TEST(OnboardingWindow, WalkedByKeyboardToTheFirstSmartScan) {
 
 // The junk rules keep the language of their first use, so Portuguese gets a process of its own.
 TEST(OnboardingWindow, PortugueseInAProcessOfItsOwn) {
-    if (qEnvironmentVariableIsSet(childLanguage)) {
-        walkOnboarding("pt-BR");
-        QmlTestSupport::useLanguage("en");
-        return;
-    }
-    QProcess child;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(childLanguage, "pt-BR");
-    child.setProcessEnvironment(environment);
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(QCoreApplication::applicationFilePath(),
-                {"--gtest_filter=OnboardingWindow.PortugueseInAProcessOfItsOwn"});
-    ASSERT_TRUE(child.waitForFinished(120000));
-    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+    QmlTestSupport::inPortugueseProcess([] { walkOnboarding("pt-BR"); });
 }

@@ -90,6 +90,10 @@ QQuickItem* find(QQuickWindow* window, const QString& name) {
     return item;
 }
 
+bool shown(QQuickWindow* window, const QString& name) {
+    return findItem(window->contentItem(), name, true) != nullptr;
+}
+
 void press(QQuickWindow* window, QQuickItem* item) {
     ASSERT_NE(item, nullptr);
     click(*window, *item);

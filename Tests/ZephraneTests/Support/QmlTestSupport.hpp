@@ -50,6 +50,8 @@ bool finishes(const QFuture<void>& future, int milliseconds = 20000);
 // Window tests drive the real window by name, the way a user would.
 // The visible item of that name in the window; the test fails when there is none.
 QQuickItem* find(QQuickWindow* window, const QString& name);
+// Whether a visible item of that name is in the window.
+bool shown(QQuickWindow* window, const QString& name);
 // A click in the middle of the item, with no time for events after it.
 void press(QQuickWindow* window, QQuickItem* item);
 // A click in the middle of the item, then a moment for what it starts.

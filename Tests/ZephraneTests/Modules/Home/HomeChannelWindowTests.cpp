@@ -3,8 +3,6 @@
 #include "JunkHome.hpp"
 #include "Support/QmlTestSupport.hpp"
 
-#include <QDir>
-#include <QProcess>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -18,35 +16,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* childLanguage = "ZEPHRANE_HOME_WINDOW_LANGUAGE";
-
-// The test program's home, which main() made temporary; the smart scan runs over a fixture in it.
-fs::path testHome() {
-    const fs::path home = QDir::homePath().toStdString();
-    if (home.string().rfind(fs::temp_directory_path().string(), 0) != 0)
-        std::abort(); // never anywhere near a real home
-    return home;
-}
-
-void removeFixture() {
-    for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
-        fs::remove_all(testHome() / top);
-}
-
-QQuickItem* find(QQuickWindow* window, const QString& name) {
-    QQuickItem* item = QmlTestSupport::findItem(window->contentItem(), name, true);
-    EXPECT_NE(item, nullptr) << name.toStdString();
-    return item;
-}
-
-bool shown(QQuickWindow* window, const QString& name) {
-    QQuickItem* item = QmlTestSupport::findItem(window->contentItem(), name, true);
-    return item && item->isVisible();
-}
+using QmlTestSupport::shown;
+using QmlTestSupport::find;
+using QmlTestSupport::testHome;
 
 // Home before, during and after a smart scan, then the review key to the junk.
 void runHome(const QString& language) {
-    removeFixture();
+    TestSupport::removeJunkHome(testHome());
     TestSupport::buildJunkHome(testHome());
     QmlTestSupport::WarningCollector warnings;
     {
@@ -95,7 +71,7 @@ void runHome(const QString& language) {
         window->close();
     }
     warnings.expectNone();
-    removeFixture();
+    TestSupport::removeJunkHome(testHome());
 }
 
 } // namespace
@@ -107,19 +83,5 @@ TEST(HomeChannelWindow, SmartScanFromTheKeyboardThenReview) {
 
 // The rules' texts keep the language of their first use, so Portuguese gets a process of its own.
 TEST(HomeChannelWindow, PortugueseInAProcessOfItsOwn) {
-    if (qEnvironmentVariableIsSet(childLanguage)) {
-        QmlTestSupport::useLanguage("pt-BR");
-        runHome("pt-BR");
-        QmlTestSupport::useLanguage("en");
-        return;
-    }
-    QProcess child;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(childLanguage, "pt-BR");
-    child.setProcessEnvironment(environment);
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(QCoreApplication::applicationFilePath(),
-                {"--gtest_filter=HomeChannelWindow.PortugueseInAProcessOfItsOwn"});
-    ASSERT_TRUE(child.waitForFinished(120000));
-    EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+    QmlTestSupport::inPortugueseProcess([] { runHome("pt-BR"); });
 }

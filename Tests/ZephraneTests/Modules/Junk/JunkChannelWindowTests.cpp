@@ -27,9 +27,7 @@ using QmlTestSupport::testHome;
 using QmlTestSupport::waitFor;
 
 void removeFixture() {
-    const fs::path home = testHome();
-    for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
-        fs::remove_all(home / top);
+    TestSupport::removeJunkHome(testHome());
     fs::remove_all(homeTrash());
 }
 

@@ -30,11 +30,9 @@ using QmlTestSupport::testHome;
 using QmlTestSupport::waitFor;
 
 void removeFixture() {
-    const fs::path home = testHome();
-    for (const char* top : {"Library", "Downloads", ".npm", ".cargo", ".cache/pip", ".cache/fontconfig"})
-        fs::remove_all(home / top);
+    TestSupport::removeJunkHome(testHome());
     fs::remove_all(homeTrash());
-    fs::remove_all(home / "Volumes");
+    fs::remove_all(testHome() / "Volumes");
 }
 
 // A second drive's trash, a fixture folder like the home trash.
