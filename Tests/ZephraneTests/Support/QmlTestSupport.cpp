@@ -140,6 +140,11 @@ void inPortugueseProcess(const std::function<void()>& run) {
     EXPECT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
 }
 
+void finish(const QFuture<void>& future) {
+    ASSERT_TRUE(finishes(future));
+    QCoreApplication::processEvents();
+}
+
 bool finishes(const QFuture<void>& future, int milliseconds) {
     return QTest::qWaitFor([&] { return future.isFinished(); }, milliseconds);
 }

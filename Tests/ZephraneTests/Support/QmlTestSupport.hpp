@@ -44,6 +44,9 @@ QQuickItem* findItem(QQuickItem* root, const QString& name, bool visibleOnly = f
 // A left click in the middle of the item.
 void click(QQuickWindow& window, const QQuickItem& item);
 
+// Waits for the future, events running meanwhile (the test fails after 20 s), then delivers what it posted.
+void finish(const QFuture<void>& future);
+
 // Whether the future finishes within the time, events running meanwhile.
 bool finishes(const QFuture<void>& future, int milliseconds = 20000);
 

@@ -7,6 +7,7 @@
 #include "Modules/Shared/CleanupItemList.hpp"
 #include "TempTree.hpp"
 
+#include "Support/QmlTestSupport.hpp"
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 #include <QTest>
@@ -25,10 +26,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void finish(const QFuture<void>& future) {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return future.isFinished(); }, 20000));
-    QCoreApplication::processEvents();
-}
+using QmlTestSupport::finish;
 
 std::vector<std::string> names(const std::vector<InstalledApp>& apps) {
     std::vector<std::string> result;

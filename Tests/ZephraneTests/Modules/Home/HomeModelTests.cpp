@@ -5,6 +5,7 @@
 #include "Painel/ByteFormat.hpp"
 #include "TempTree.hpp"
 
+#include "Support/QmlTestSupport.hpp"
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -19,10 +20,7 @@ using Stage = HomeSnapshot::Stage;
 
 namespace {
 
-void finish(const QFuture<void>& future) {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return future.isFinished(); }, 20000));
-    QCoreApplication::processEvents();
-}
+using QmlTestSupport::finish;
 
 // The application's model over a temporary home: junk from the shared fixture, and what a removed
 // app left behind for the leftovers. The leftovers scan can be held on its worker thread.

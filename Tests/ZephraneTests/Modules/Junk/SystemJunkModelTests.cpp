@@ -6,6 +6,7 @@
 #include "Modules/Junk/SystemJunkModel.hpp"
 #include "TempTree.hpp"
 
+#include "Support/QmlTestSupport.hpp"
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 #include <QTest>
@@ -23,10 +24,7 @@ namespace {
 
 using State = CleanupSelection::State;
 
-void finish(const QFuture<void>& future) {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return future.isFinished(); }, 20000));
-    QCoreApplication::processEvents();
-}
+using QmlTestSupport::finish;
 
 QVariant role(const JunkCategoryList& rows, int row, JunkCategoryList::Role which) {
     return rows.data(rows.index(row), which);

@@ -6,6 +6,7 @@
 #include "Modules/Large/LargeFilesModel.hpp"
 #include "TempTree.hpp"
 
+#include "Support/QmlTestSupport.hpp"
 #include <QAbstractItemModelTester>
 #include <QCoreApplication>
 #include <QTest>
@@ -27,10 +28,7 @@ namespace {
 using State = CleanupSelection::State;
 constexpr std::int64_t MB = 1000000;
 
-void finish(const QFuture<void>& future) {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return future.isFinished(); }, 20000));
-    QCoreApplication::processEvents();
-}
+using QmlTestSupport::finish;
 
 std::int64_t allocated(const fs::path& path) {
     return TestSupport::allocatedBytes(path.c_str());

@@ -3,6 +3,7 @@
 #include "Modules/Leftovers/LeftoversModel.hpp"
 #include "TempTree.hpp"
 
+#include "Support/QmlTestSupport.hpp"
 #include <QAbstractItemModelTester>
 #include <QTest>
 
@@ -16,10 +17,7 @@ namespace {
 
 using State = CleanupSelection::State;
 
-void finish(const QFuture<void>& future) {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return future.isFinished(); }, 20000));
-    QCoreApplication::processEvents();
-}
+using QmlTestSupport::finish;
 
 // What two removed apps left in a temporary home: three things of org.gone.Editor (its sandbox data
 // makes the group believable) and one of net.old.Viewer; an installed app's files beside them.

@@ -8,6 +8,7 @@
 #include "ScopedMount.hpp"
 #include "TempTree.hpp"
 
+#include "Support/QmlTestSupport.hpp"
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -22,10 +23,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void finish(const QFuture<void>& future) {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return future.isFinished(); }, 20000));
-    QCoreApplication::processEvents();
-}
+using QmlTestSupport::finish;
 
 // One read of its own: one the watcher started for the fixture's writes ends first.
 void read(TrashModel& model, bool showsProgress, bool announces = false) {

@@ -3,6 +3,7 @@
 #include "Modules/Updates/UpdateList.hpp"
 #include "Modules/Updates/UpdatesModel.hpp"
 
+#include "Support/QmlTestSupport.hpp"
 #include <QAbstractItemModelTester>
 #include <QSettings>
 #include <QTest>
@@ -21,10 +22,7 @@ using Failure = AppUpdateInstaller::Failure;
 
 namespace {
 
-void finish(const QFuture<void>& future) {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return future.isFinished(); }, 20000));
-    QCoreApplication::processEvents();
-}
+using QmlTestSupport::finish;
 
 AppUpdate offer(std::string name, AppUpdateSource source, std::string version, std::string download = {}) {
     AppUpdate update;
