@@ -11,6 +11,10 @@
         <source>Go</source>
         <translation>Go</translation>
     </message>
+    <message id="menu.checkForUpdates">
+        <source>Check for Updates…</source>
+        <translation>Check for Updates…</translation>
+    </message>
     <message id="menu.go.item">
         <source>%1</source>
         <translation>%1</translation>

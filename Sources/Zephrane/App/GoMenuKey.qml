@@ -65,5 +65,12 @@ Rectangle {
             onObjectAdded: (index, object) => menu.insertItem(index, object)
             onObjectRemoved: (index, object) => menu.removeItem(object)
         }
+
+        MenuSeparator {}
+        // No update service is built into this edition of the program (see the About settings).
+        MenuItem {
+            text: qsTrId("menu.checkForUpdates")
+            enabled: false
+        }
     }
 }
