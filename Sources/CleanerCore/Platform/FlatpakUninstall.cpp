@@ -1,8 +1,8 @@
 #include "CleanerCore/Platform/FlatpakUninstall.hpp"
 
 #include "CleanerCore/Display/CoreL10n.hpp"
-
-#include <flatpak/flatpak.h>
+#include "CleanerCore/Files/URL.hpp"
+#include "CleanerCore/Platform/FlatpakInstallations.hpp"
 
 #include <memory>
 #include <vector>
@@ -10,25 +10,6 @@
 namespace CleanerCore::Platform {
 
 namespace {
-
-struct ObjectUnref {
-    void operator()(gpointer object) const { g_object_unref(object); }
-};
-
-std::vector<std::string> split(const std::string& path) {
-    std::vector<std::string> parts;
-    std::size_t start = 0;
-    while (start <= path.size()) {
-        const std::size_t end = path.find('/', start);
-        const std::string part = path.substr(start, end == std::string::npos ? std::string::npos : end - start);
-        if (!part.empty())
-            parts.push_back(part);
-        if (end == std::string::npos)
-            break;
-        start = end + 1;
-    }
-    return parts;
-}
 
 // Why the transaction failed, in words the user can act on.
 std::string reasonOf(const GError* error) {
@@ -51,15 +32,16 @@ std::string reasonOf(const GError* error) {
 } // namespace
 
 std::optional<FlatpakDeployment> flatpakDeployment(const std::string& deployPath) {
-    std::vector<std::string> parts = split(deployPath);
+    const std::vector<std::string_view> parts = pathComponents(deployPath);
     // .../<installation>/app/<id>/<arch>/<branch>/active (or a commit folder in place of "active")
     if (parts.size() < 6 || parts[parts.size() - 5] != "app")
         return std::nullopt;
     const std::size_t n = parts.size();
     FlatpakDeployment found;
-    found.ref = "app/" + parts[n - 4] + "/" + parts[n - 3] + "/" + parts[n - 2];
+    found.ref = "app/" + std::string(parts[n - 4]) + "/" + std::string(parts[n - 3]) + "/" +
+                std::string(parts[n - 2]);
     for (std::size_t i = 0; i + 5 < n; ++i)
-        found.installation += "/" + parts[i];
+        (found.installation += "/") += parts[i];
     return found;
 }
 
@@ -68,32 +50,21 @@ std::optional<std::string> uninstallFlatpak(const std::string& deployPath) {
     if (!deployment)
         return CoreL10n::string("core.uninstall.failure.notInstalled");
     GError* error = nullptr;
-    // The installation is found by its path among those libflatpak knows, so the user's is opened
-    // as the user's (no helper, no password) and a system one goes through the system helper.
-    std::unique_ptr<FlatpakInstallation, ObjectUnref> installation;
-    const std::unique_ptr<GFile, ObjectUnref> wanted(g_file_new_for_path(deployment->installation.c_str()));
-    if (FlatpakInstallation* user = flatpak_installation_new_user(nullptr, nullptr)) {
-        const std::unique_ptr<GFile, ObjectUnref> path(flatpak_installation_get_path(user));
-        if (g_file_equal(path.get(), wanted.get()))
-            installation.reset(user);
-        else
-            g_object_unref(user);
-    }
-    if (!installation) {
-        if (GPtrArray* system = flatpak_get_system_installations(nullptr, nullptr)) {
-            for (guint i = 0; i < system->len && !installation; ++i) {
-                auto* candidate = FLATPAK_INSTALLATION(g_ptr_array_index(system, i));
-                const std::unique_ptr<GFile, ObjectUnref> path(flatpak_installation_get_path(candidate));
-                if (g_file_equal(path.get(), wanted.get()))
-                    installation.reset(FLATPAK_INSTALLATION(g_object_ref(candidate)));
-            }
-            g_ptr_array_unref(system);
+    // The installation is found by its path among those libflatpak knows, so that a user's app is
+    // uninstalled without a password.
+    GObjectPointer<::FlatpakInstallation> installation;
+    const GObjectPointer<GFile> wanted(g_file_new_for_path(deployment->installation.c_str()));
+    for (GObjectPointer<::FlatpakInstallation>& candidate : openFlatpakInstallations()) {
+        const GObjectPointer<GFile> path(flatpak_installation_get_path(candidate.get()));
+        if (g_file_equal(path.get(), wanted.get())) {
+            installation = std::move(candidate);
+            break;
         }
     }
     if (!installation)
         return CoreL10n::string("core.uninstall.failure.notInstalled");
 
-    const std::unique_ptr<FlatpakTransaction, ObjectUnref> transaction(
+    const GObjectPointer<FlatpakTransaction> transaction(
         flatpak_transaction_new_for_installation(installation.get(), nullptr, &error));
     if (!transaction) {
         std::string reason = reasonOf(error);

@@ -1,9 +1,8 @@
 #include "CleanerCore/Platform/FlatpakUpdates.hpp"
 
 #include "CleanerCore/Platform/AppStream.hpp"
+#include "CleanerCore/Platform/FlatpakInstallations.hpp"
 #include "CleanerCore/Updates/AppVersion.hpp"
-
-#include <flatpak/flatpak.h>
 
 #include <map>
 #include <memory>
@@ -12,30 +11,7 @@
 namespace CleanerCore::Platform {
 namespace {
 
-template <typename T> struct GObjectDeleter {
-    void operator()(T* object) const { g_object_unref(object); }
-};
-template <typename T> using GObjectPointer = std::unique_ptr<T, GObjectDeleter<T>>;
-
-struct PointerArrayDeleter {
-    void operator()(GPtrArray* array) const { g_ptr_array_unref(array); }
-};
-using PointerArray = std::unique_ptr<GPtrArray, PointerArrayDeleter>;
-
 std::string text(const char* value) { return value != nullptr ? value : ""; }
-
-std::vector<GObjectPointer<::FlatpakInstallation>> openInstallations() {
-    std::vector<GObjectPointer<::FlatpakInstallation>> opened;
-    GError* error = nullptr;
-    if (::FlatpakInstallation* user = flatpak_installation_new_user(nullptr, &error))
-        opened.emplace_back(user);
-    g_clear_error(&error);
-    if (PointerArray system{flatpak_get_system_installations(nullptr, &error)})
-        for (guint i = 0; i < system->len; ++i)
-            opened.emplace_back(static_cast<::FlatpakInstallation*>(g_object_ref(g_ptr_array_index(system.get(), i))));
-    g_clear_error(&error);
-    return opened;
-}
 
 FlatpakInstallationPath where(::FlatpakInstallation* installation) {
     FlatpakInstallationPath path;
@@ -86,7 +62,7 @@ std::string offeredCommit(::FlatpakInstallation* installation, ::FlatpakInstalle
 
 std::vector<FlatpakUpdate> flatpakUpdates(bool offline) {
     std::vector<FlatpakUpdate> updates;
-    for (const auto& installation : openInstallations()) {
+    for (const auto& installation : openFlatpakInstallations()) {
         const FlatpakInstallationPath path = where(installation.get());
         if (path.path.empty())
             continue;
@@ -179,7 +155,7 @@ void operationDone(FlatpakTransaction*, FlatpakTransactionOperation*, const char
 
 void installFlatpakUpdate(const FlatpakUpdate& update, const std::function<void(FlatpakUpdateStage)>& progress) {
     GObjectPointer<::FlatpakInstallation> installation;
-    for (auto& opened : openInstallations())
+    for (auto& opened : openFlatpakInstallations())
         if (where(opened.get()) == update.installation) {
             installation = std::move(opened);
             break;

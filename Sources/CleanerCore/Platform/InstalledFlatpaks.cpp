@@ -1,24 +1,13 @@
 #include "CleanerCore/Platform/InstalledFlatpaks.hpp"
 
 #include "CleanerCore/Platform/AppStream.hpp"
-
-#include <flatpak/flatpak.h>
+#include "CleanerCore/Platform/FlatpakInstallations.hpp"
 
 #include <memory>
 
 namespace CleanerCore::Platform {
 
 namespace {
-
-template <typename T> struct GObjectDeleter {
-    void operator()(T* object) const { g_object_unref(object); }
-};
-template <typename T> using GObjectPointer = std::unique_ptr<T, GObjectDeleter<T>>;
-
-struct PointerArrayDeleter {
-    void operator()(GPtrArray* array) const { g_ptr_array_unref(array); }
-};
-using PointerArray = std::unique_ptr<GPtrArray, PointerArrayDeleter>;
 
 std::optional<std::string> text(const char* value) {
     if (value == nullptr || *value == '\0')
@@ -33,22 +22,6 @@ std::string pathOf(FlatpakInstallationPath& out, ::FlatpakInstallation* installa
     g_free(path);
     out.isUser = flatpak_installation_get_is_user(installation);
     return out.path;
-}
-
-// Opened installations, the user's first. Each is owned by the caller.
-std::vector<GObjectPointer<::FlatpakInstallation>> openInstallations() {
-    std::vector<GObjectPointer<::FlatpakInstallation>> opened;
-    GError* error = nullptr;
-    if (::FlatpakInstallation* user = flatpak_installation_new_user(nullptr, &error))
-        opened.emplace_back(user);
-    g_clear_error(&error);
-    if (PointerArray system{flatpak_get_system_installations(nullptr, &error)}) {
-        for (guint i = 0; i < system->len; ++i)
-            opened.emplace_back(
-                static_cast<::FlatpakInstallation*>(g_object_ref(g_ptr_array_index(system.get(), i))));
-    }
-    g_clear_error(&error);
-    return opened;
 }
 
 // Flatpak keeps an app's AppStream data in one of these, newest convention first.
@@ -73,7 +46,7 @@ void completeFromAppStream(InstalledFlatpak& ref) {
 
 std::vector<FlatpakInstallationPath> flatpakInstallations() {
     std::vector<FlatpakInstallationPath> found;
-    for (const auto& installation : openInstallations()) {
+    for (const auto& installation : openFlatpakInstallations()) {
         FlatpakInstallationPath entry;
         if (!pathOf(entry, installation.get()).empty())
             found.push_back(std::move(entry));
@@ -83,7 +56,7 @@ std::vector<FlatpakInstallationPath> flatpakInstallations() {
 
 std::vector<InstalledFlatpak> installedFlatpaks() {
     std::vector<InstalledFlatpak> refs;
-    for (const auto& installation : openInstallations()) {
+    for (const auto& installation : openFlatpakInstallations()) {
         FlatpakInstallationPath where;
         if (pathOf(where, installation.get()).empty())
             continue;

@@ -108,6 +108,12 @@ struct Fold {
 constexpr Fold noFold{1'000'000'000, 0};
 
 std::string compare(const fs::path& root, Fold fold) {
+    // Fresh files may still change their allocated blocks when written back (delayed allocation
+    // reserves more than it keeps); settle them first so both walks see the same sizes.
+    if (const int fd = ::open(root.c_str(), O_RDONLY | O_DIRECTORY); fd >= 0) {
+        ::syncfs(fd);
+        ::close(fd);
+    }
     const auto fast = DiskTreeScanner{root.string(), fold.minimumNodeSize, fold.alwaysKeep}.scan(
         DiskTreeScanner::Reporting{});
     const auto reference =
