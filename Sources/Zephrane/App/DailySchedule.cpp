@@ -14,7 +14,9 @@ std::optional<QDateTime> DailySchedule::lastRun() const {
     return stored;
 }
 
-void DailySchedule::markRun() { QSettings().setValue(key, now()); }
+void DailySchedule::markRun() {
+    QSettings().setValue(key, now());
+}
 
 bool DailySchedule::runIfDue(const std::function<bool()>& body) {
     if (const auto last = lastRun(); last && std::abs(last->secsTo(now())) < interval)

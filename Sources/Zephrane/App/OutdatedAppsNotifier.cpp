@@ -17,9 +17,10 @@ const QString interface = QStringLiteral("org.freedesktop.Notifications");
 const QString openAction = QStringLiteral("default");
 } // namespace
 
-OutdatedAppsNotifier::OutdatedAppsNotifier(Preferences& preferences, UpdatesModel& updates, QDBusConnection bus,
-                                           DailySchedule daily, QObject* parent)
-    : QObject(parent), preferences(preferences), updates(&updates), bus(std::move(bus)), daily(std::move(daily)) {
+OutdatedAppsNotifier::OutdatedAppsNotifier(Preferences& preferences, UpdatesModel& updates,
+                                           QDBusConnection bus, DailySchedule daily, QObject* parent)
+    : QObject(parent), preferences(preferences), updates(&updates), bus(std::move(bus)),
+      daily(std::move(daily)) {
     // An hourly question needs no precision; a coarse timer lets the system batch the wake-up.
     timer.setTimerType(Qt::VeryCoarseTimer);
     timer.setInterval(checkIntervalMs);
@@ -82,9 +83,8 @@ void OutdatedAppsNotifier::post(int count) {
     }
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Notify"));
     call << QStringLiteral("Zephrane") << noticeId << QStringLiteral("zephrane")
-         << qtTrId("menubar.notify.title").arg(count)
-         << qtTrId("menubar.notify.body") << QStringList{openAction, qtTrId("menubar.notify.action")}
-         << QVariantMap{} << -1;
+         << qtTrId("menubar.notify.title").arg(count) << qtTrId("menubar.notify.body")
+         << QStringList{openAction, qtTrId("menubar.notify.action")} << QVariantMap{} << -1;
     // Asynchronous: a slow or hung notification service must not stall the window.
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
