@@ -2015,6 +2015,22 @@
         <source>A daily notice when updates are waiting</source>
         <translation>A daily notice when updates are waiting</translation>
     </message>
+    <message id="menubar.notify.title">
+        <source>Apps to update: %1</source>
+        <translation>Apps to update: %1</translation>
+    </message>
+    <message id="menubar.notify.body">
+        <source>Open Zephrane to see the updates</source>
+        <translation>Open Zephrane to see the updates</translation>
+    </message>
+    <message id="menubar.notify.action">
+        <source>Show updates</source>
+        <translation>Show updates</translation>
+    </message>
+    <message id="updates.notify.unavailable">
+        <source>No notification service is running, so the daily notice can't be shown</source>
+        <translation>No notification service is running, so the daily notice can't be shown</translation>
+    </message>
     <message id="updates.outdated">
         <source>Outdated apps: %1</source>
         <translation>Outdated apps: %1</translation>

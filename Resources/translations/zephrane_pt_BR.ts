@@ -2015,6 +2015,22 @@
         <source>A daily notice when updates are waiting</source>
         <translation>Um aviso diário quando houver atualizações</translation>
     </message>
+    <message id="menubar.notify.title">
+        <source>Apps to update: %1</source>
+        <translation>Apps para atualizar: %1</translation>
+    </message>
+    <message id="menubar.notify.body">
+        <source>Open Zephrane to see the updates</source>
+        <translation>Abra o Zephrane para ver as atualizações</translation>
+    </message>
+    <message id="menubar.notify.action">
+        <source>Show updates</source>
+        <translation>Mostrar atualizações</translation>
+    </message>
+    <message id="updates.notify.unavailable">
+        <source>No notification service is running, so the daily notice can't be shown</source>
+        <translation>Nenhum serviço de notificações está em execução, então o aviso diário não pode ser mostrado</translation>
+    </message>
     <message id="updates.outdated">
         <source>Outdated apps: %1</source>
         <translation>Apps desatualizados: %1</translation>

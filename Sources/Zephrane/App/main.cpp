@@ -2,6 +2,7 @@
 #include "App/AppLanguage.hpp"
 #include "App/AppModel.hpp"
 #include "App/MainWindow.hpp"
+#include "App/OutdatedAppsNotifier.hpp"
 #include "Painel/PainelTheme.hpp"
 
 #include <QApplication>
@@ -36,5 +37,15 @@ int main(int argc, char** argv) {
     // "--background" starts in the tray alone; without a tray to hold it the window shows as usual.
     if (agent.active() && QCoreApplication::arguments().contains(QStringLiteral("--background")))
         window->hide();
+
+    // Lives as long as the process, which the tray keeps alive after the window closes.
+    OutdatedAppsNotifier notifier(*model.preferences(), *model.updates(), QDBusConnection::sessionBus());
+    QObject::connect(&notifier, &OutdatedAppsNotifier::openRequested, window, [&model, window] {
+        model.open(Channel::updates);
+        window->show();
+        window->raise();
+        window->requestActivate();
+    });
+    notifier.start();
     return QApplication::exec();
 }
