@@ -11,6 +11,7 @@
 #include "CleanerCore/Updates/CurlUpdateFetcher.hpp"
 #include "CleanerCore/Updates/SpawnCommandRunner.hpp"
 #include "Modules/Shared/PhaseFormat.hpp"
+#include "Modules/Shared/WhenDone.hpp"
 #include "Modules/Updates/UpdateList.hpp"
 
 #include <QClipboard>
@@ -18,6 +19,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QPromise>
 #include <QtConcurrent/QtConcurrentRun>
 
 #include <memory>
@@ -317,11 +319,17 @@ QFuture<void> UpdatesModel::install(std::vector<AppUpdate> list) {
             }
         }
     });
-    return worker.then(this, [this, size] {
+    // Through a watcher, not a continuation: one attached after a quick batch has already ended ran
+    // at once, before the rows' states had arrived.
+    auto done = std::make_shared<QPromise<void>>();
+    done->start();
+    whenDone(this, worker, [this, size, done] {
         installing = false;
         emit statesChanged();
         Announcer::announce(qtTrId("updates.announce.finished").arg(PhaseFormat::locale().toString(size)));
+        done->finish();
     });
+    return done->future();
 }
 
 QString UpdatesModel::describe(const std::exception_ptr& error) {
