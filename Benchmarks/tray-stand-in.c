@@ -1,5 +1,6 @@
 // A stand-in for a desktop's system tray under Xvfb: owns the XEmbed tray selection of screen 0,
-// so Qt reports a tray and the program keeps running in it once its window is hidden. Docks nothing.
+// so Qt reports a tray and the program keeps running in it once its window is hidden. A docked icon
+// is put on show in a small window of its own at the top left, so that a script can click it.
 // Build: cc -O2 -o tray-stand-in tray-stand-in.c -lxcb
 #include <stdio.h>
 #include <string.h>
@@ -23,11 +24,25 @@ int main(void) {
     xcb_flush(connection);
     printf("ready\n");
     fflush(stdout);
-    // Reports dock requests, which show that a tray item was made, and drops everything else.
+    // Reports dock requests with the icon's window, which show that a tray item was made, shows
+    // the icon, and drops everything else.
     xcb_generic_event_t* event;
     while ((event = xcb_wait_for_event(connection)) != NULL) {
         if ((event->response_type & 0x7f) == XCB_CLIENT_MESSAGE) {
-            printf("dock request\n");
+            const xcb_client_message_event_t* message = (const xcb_client_message_event_t*)event;
+            const xcb_window_t icon = message->data.data32[2];
+            if (message->data.data32[1] == 0 && icon != 0) { // SYSTEM_TRAY_REQUEST_DOCK
+                xcb_window_t host = xcb_generate_id(connection);
+                xcb_create_window(connection, XCB_COPY_FROM_PARENT, host, screen->root, 0, 0, 32, 32, 0,
+                                  XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, 0, NULL);
+                xcb_map_window(connection, host);
+                xcb_reparent_window(connection, icon, host, 0, 0);
+                const uint32_t size[] = {32, 32};
+                xcb_configure_window(connection, icon, XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT, size);
+                xcb_map_window(connection, icon);
+                xcb_flush(connection);
+            }
+            printf("dock request %u\n", (unsigned)icon);
             fflush(stdout);
         }
         free(event);
