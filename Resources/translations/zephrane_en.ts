@@ -1947,6 +1947,10 @@
         <source>Updates finished: %1</source>
         <translation>Updates finished: %1</translation>
     </message>
+    <message id="updates.announce.stopped">
+        <source>Installing stopped after %1 of %2 apps</source>
+        <translation>Installing stopped after %1 of %2 apps</translation>
+    </message>
     <message id="updates.column.app">
         <source>App</source>
         <translation>App</translation>
@@ -1990,6 +1994,14 @@
     <message id="updates.rescan">
         <source>Check again</source>
         <translation>Check again</translation>
+    </message>
+    <message id="updates.stop">
+        <source>Stop after this app</source>
+        <translation>Stop after this app</translation>
+    </message>
+    <message id="updates.stopping">
+        <source>Stopping…</source>
+        <translation>Stopping…</translation>
     </message>
     <message id="updates.upToDate.title">
         <source>All apps are up to date</source>

@@ -1947,6 +1947,10 @@
         <source>Updates finished: %1</source>
         <translation>Atualizações concluídas: %1</translation>
     </message>
+    <message id="updates.announce.stopped">
+        <source>Installing stopped after %1 of %2 apps</source>
+        <translation>Instalação interrompida após %1 de %2 apps</translation>
+    </message>
     <message id="updates.column.app">
         <source>App</source>
         <translation>App</translation>
@@ -1990,6 +1994,14 @@
     <message id="updates.rescan">
         <source>Check again</source>
         <translation>Verificar de novo</translation>
+    </message>
+    <message id="updates.stop">
+        <source>Stop after this app</source>
+        <translation>Parar após este app</translation>
+    </message>
+    <message id="updates.stopping">
+        <source>Stopping…</source>
+        <translation>Parando…</translation>
     </message>
     <message id="updates.upToDate.title">
         <source>All apps are up to date</source>

@@ -22,6 +22,7 @@
 #include <QPromise>
 #include <QtConcurrent/QtConcurrentRun>
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 
@@ -143,6 +144,7 @@ UpdatesModel::UpdatesModel(Preferences& preferences, Engine engine, QObject* par
 }
 
 UpdatesModel::~UpdatesModel() {
+    batchStop.request_stop();
     worker.waitForFinished();
 }
 
@@ -297,8 +299,13 @@ QFuture<void> UpdatesModel::install(std::vector<AppUpdate> list) {
     };
     const Engine parts = engine;
     const auto size = static_cast<int>(list.size());
-    worker = QtConcurrent::run([list = std::move(list), parts, post] {
+    batchStop = std::stop_source();
+    auto begun = std::make_shared<std::atomic<int>>(0);
+    worker = QtConcurrent::run([list = std::move(list), parts, post, stop = batchStop.get_token(), begun] {
         for (const AppUpdate& each : list) {
+            if (stop.stop_requested())
+                return;
+            ++*begun;
             const QString id = QString::fromStdString(each.id());
             if (parts.isRunning(*each.bundleID)) {
                 post(id, {RowState::Kind::needsQuit});
@@ -323,10 +330,15 @@ QFuture<void> UpdatesModel::install(std::vector<AppUpdate> list) {
     // at once, before the rows' states had arrived.
     auto done = std::make_shared<QPromise<void>>();
     done->start();
-    whenDone(this, worker, [this, size, done] {
+    whenDone(this, worker, [this, size, begun, done] {
         installing = false;
         emit statesChanged();
-        Announcer::announce(qtTrId("updates.announce.finished").arg(PhaseFormat::locale().toString(size)));
+        const QLocale locale = PhaseFormat::locale();
+        if (const int tried = *begun; tried < size)
+            Announcer::announce(
+                qtTrId("updates.announce.stopped").arg(locale.toString(tried), locale.toString(size)));
+        else
+            Announcer::announce(qtTrId("updates.announce.finished").arg(locale.toString(size)));
         done->finish();
     });
     return done->future();
@@ -423,6 +435,13 @@ void UpdatesModel::cancelInstall() {
     emit statesChanged();
 }
 
+void UpdatesModel::stopInstalling() {
+    if (!installing || batchStop.stop_requested())
+        return;
+    batchStop.request_stop();
+    emit statesChanged();
+}
+
 void UpdatesModel::openNotes(const QString& id) {
     if (const AppUpdate* found = update(id); found && found->notesURL)
         engine.openURL(QUrl(QString::fromStdString(found->notesURL->absoluteString())));
@@ -443,6 +462,9 @@ QString UpdatesModel::checkedText() const {
 }
 
 QString UpdatesModel::installAllText() const {
+    // While a batch runs the same key stops it, so keyboard focus stays where it was.
+    if (installing)
+        return qtTrId(batchStop.stop_requested() ? "updates.stopping" : "updates.stop");
     const int selected = selectedCount();
     return selected == 0 ? qtTrId("updates.installAll.none")
                          : qtTrId("updates.installAll").arg(PhaseFormat::locale().toString(selected));

@@ -37,6 +37,7 @@ class UpdatesModel : public ModulePhaseModel {
     Q_PROPERTY(int ignoredCount READ ignoredCount NOTIFY resultsChanged)
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY statesChanged)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY statesChanged)
+    Q_PROPERTY(bool isStopping READ isStopping NOTIFY statesChanged)
     Q_PROPERTY(bool installConfirming READ installConfirming NOTIFY statesChanged)
     Q_PROPERTY(QString checkedText READ checkedText NOTIFY checkedChanged)
     Q_PROPERTY(QString installAllText READ installAllText NOTIFY statesChanged)
@@ -89,6 +90,7 @@ public:
     void setSelected(const CleanerCore::AppUpdate& update, bool on);
     int selectedCount() const;
     bool isBusy() const { return installing; }
+    bool isStopping() const { return installing && batchStop.stop_requested(); }
     std::optional<QDateTime> lastChecked() const { return checked; }
     const CleanerCore::IgnoredUpdateVersions& ignoredVersions() const { return ignored; }
 
@@ -108,6 +110,9 @@ public:
     Q_INVOKABLE void requestInstallSelected();
     Q_INVOKABLE void confirmInstall();
     Q_INVOKABLE void cancelInstall();
+    // The app being installed finishes (a half-done swap is worse than a late stop); the rest of
+    // the batch is not begun.
+    Q_INVOKABLE void stopInstalling();
     Q_INVOKABLE void openNotes(const QString& id);
 
     UpdateList* rowList() const { return rowModel; }
@@ -140,6 +145,7 @@ private:
     std::optional<QDateTime> checked;
     std::vector<CleanerCore::AppUpdate> pendingBatch;
     bool installing = false;
+    std::stop_source batchStop;
     QFuture<void> worker; // the batch in flight, waited for when the model goes
     Preferences& settings;
     UpdateList* rowModel;

@@ -157,8 +157,8 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.model.installAllText
                 kind: PainelButtonKind.Accent
-                enabled: root.model.selectedCount > 0 && !root.model.isBusy
-                onClicked: root.model.requestInstallSelected()
+                enabled: root.model.isBusy ? !root.model.isStopping : root.model.selectedCount > 0
+                onClicked: root.model.isBusy ? root.model.stopInstalling() : root.model.requestInstallSelected()
             }
         }
     }

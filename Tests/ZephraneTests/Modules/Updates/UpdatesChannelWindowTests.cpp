@@ -1,6 +1,7 @@
 #include "App/AppModel.hpp"
 #include "App/MainWindow.hpp"
 #include "FlatpakFixture.hpp"
+#include "LocalHttpServer.hpp"
 #include "Modules/Updates/UpdatesModel.hpp"
 #include "Support/QmlTestSupport.hpp"
 
@@ -10,6 +11,9 @@
 #include <QSettings>
 #include <QTest>
 
+#include <filesystem>
+#include <fstream>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -18,6 +22,7 @@ using QmlTestSupport::click;
 using QmlTestSupport::find;
 using QmlTestSupport::waitFor;
 using TestSupport::FlatpakFixture;
+using TestSupport::LocalHttpServer;
 
 std::string installedVersion(const std::string& id) {
     std::string output;
@@ -95,7 +100,125 @@ void runUpdatesChannel(const QString& language, FlatpakFixture& fixture) {
     fixture.uninstall(id);
 }
 
+void writeFile(const std::filesystem::path& path, const std::string& text) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path) << text;
+}
+
+std::string readFile(const std::filesystem::path& path) {
+    std::ifstream in(path);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+std::string feedOffering(const std::string& version, const std::string& enclosure) {
+    return "<rss><channel><item><title>" + version + "</title><description><![CDATA[<ul><li>Faster start</li>"
+           "</ul>]]></description><enclosure url=\"" + enclosure + "\" sparkle:shortVersionString=\"" + version +
+           "\"/></item></channel></rss>";
+}
+
+QString rowText(QQuickWindow* window, const QString& name, const char* child) {
+    QQuickItem* item = QmlTestSupport::findItem(find(window, QStringLiteral("updateRow-%1").arg(name)), child, true);
+    return item == nullptr ? QString() : item->property("text").toString();
+}
+
+// Two apps whose feeds a local server hands out: one offers a zip (installable here), one a plain
+// http download (opened, never installed). The zip's host refuses the connection, so the install
+// fails with plain words and the app on disk is left exactly as it was.
+void runFeedUpdates(const QString& language) {
+    const LocalHttpServer server([](const std::string& path) {
+        LocalHttpServer::Response response;
+        if (path == "/feedy.xml")
+            response.body = feedOffering("2.0", "https://127.0.0.1:9/Feedy-2.0.zip");
+        else if (path == "/plain.xml")
+            response.body = feedOffering("4.0", "http://127.0.0.1:9/Plain-4.0.zip");
+        else
+            response.status = 404;
+        return response;
+    });
+    const std::filesystem::path apps = QmlTestSupport::testHome() / "Applications";
+    const auto bundle = [&](const std::string& name, const std::string& version) {
+        const std::string plist = "<plist><dict><key>CFBundleIdentifier</key><string>net.feed." + name +
+                                  "</string><key>CFBundleShortVersionString</key><string>" + version +
+                                  "</string><key>SUFeedURL</key><string>" +
+                                  server.url("/" + QString::fromStdString(name).toLower().toStdString() + ".xml") +
+                                  "</string></dict></plist>";
+        writeFile(apps / (name + ".app/Contents/Info.plist"), plist);
+        writeFile(apps / (name + ".app") / "Contents/MacOS" / name, "#!/bin/sh\n");
+        return plist;
+    };
+    const std::string feedyPlist = bundle("Feedy", "1.0");
+    bundle("Plain", "3.0");
+    QSettings().remove(QStringLiteral("updates"));
+
+    QmlTestSupport::WarningCollector warnings;
+    {
+        AppModel model;
+        UpdatesModel& updates = *model.updates();
+        QQmlApplicationEngine engine;
+        QQuickWindow* window = MainWindow::load(engine, model);
+        ASSERT_NE(window, nullptr);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+        const QString shot = QStringLiteral("updates-feed-%1-").arg(language);
+
+        model.open(Channel::updates);
+        waitFor([&] { return updates.phase() == ModulePhase::ready; });
+        QmlTestSupport::saveScreenshot(*window, shot + "1-results");
+        const auto named = [&](const std::string& name) {
+            const auto it = std::ranges::find(updates.updates(), name, &CleanerCore::AppUpdate::name);
+            return it == updates.updates().end() ? nullptr : &*it;
+        };
+        ASSERT_NE(named("Feedy"), nullptr);
+        ASSERT_NE(named("Plain"), nullptr);
+        EXPECT_EQ(named("Feedy")->newVersion, "2.0");
+        EXPECT_TRUE(updates.isSelected(*named("Feedy")));
+        EXPECT_FALSE(updates.isSelectable(*named("Plain"))) << "a plain http download is never installed";
+        EXPECT_EQ(rowText(window, "Plain", "actionKey"), qtTrId("updates.action.open"));
+
+        QQuickItem* plainRow = find(window, "updateRow-Plain");
+        ASSERT_NE(plainRow, nullptr);
+        plainRow->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_I);
+        waitFor([&] { return updates.ignoredCount() == 1; });
+        click(window, find(window, "restoreKey"));
+        waitFor([&] { return updates.ignoredCount() == 0; });
+
+        find(window, "updateRow-Feedy")->forceActiveFocus();
+        QTest::keyClick(window, Qt::Key_N);
+        QmlTestSupport::settle(120);
+        EXPECT_TRUE(find(window, "notesText")->property("text").toString().contains("Faster start"));
+        QmlTestSupport::saveScreenshot(*window, shot + "2-notes");
+        click(window, find(window, "closeNotesKey"));
+
+        click(window, find(window, "installAllKey"));
+        click(window, find(window, "confirmInstallKey"));
+        waitFor([&] { return !updates.isBusy(); });
+        QmlTestSupport::saveScreenshot(*window, shot + "3-failed");
+        EXPECT_EQ(updates.state(*named("Feedy")).kind, UpdatesModel::RowState::Kind::failed);
+        EXPECT_EQ(rowText(window, "Feedy", "stateText"), qtTrId("updates.failure.download"));
+        window->close();
+    }
+    EXPECT_EQ(readFile(apps / "Feedy.app/Contents/Info.plist"), feedyPlist) << "the installed app is untouched";
+    std::vector<std::string> left;
+    for (const auto& entry : std::filesystem::directory_iterator(apps))
+        left.push_back(entry.path().filename().string());
+    std::ranges::sort(left);
+    EXPECT_EQ(left, (std::vector<std::string>{"Feedy.app", "Plain.app"})) << "no incoming or backup copy stays";
+    const QStringList seen = warnings.take();
+    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    std::filesystem::remove_all(apps);
+}
+
 } // namespace
+
+TEST(UpdatesChannelWindow, FeedUpdatesFromALocalServerFailClosedAndLeaveTheAppAsItWas) {
+    QmlTestSupport::useLanguage("en");
+    runFeedUpdates("en");
+}
+
+TEST(UpdatesChannelWindow, FeedUpdatesInPortuguese) {
+    QmlTestSupport::inPortugueseProcess([] { runFeedUpdates("pt-BR"); });
+}
 
 TEST(UpdatesChannelWindow, AFlatpakUpdateIsFoundConfirmedAndInstalled) {
     FlatpakFixture* fixture = FlatpakFixture::shared();

@@ -11,7 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <mutex>
+#include <thread>
 
 using CleanerCore::AppUpdate;
 using CleanerCore::AppUpdateInstaller;
@@ -43,6 +45,7 @@ struct Updates : testing::Test {
     std::map<AppUpdateSource, std::vector<AppUpdate>> offered;
     std::map<std::string, std::optional<Failure>> outcome; // by name
     std::set<std::string> running;
+    std::atomic<bool> holdInstall{false}; // the installer waits while set
     std::vector<std::string> installedOrder;
     std::mutex mutex;
     std::vector<QUrl> opened;
@@ -62,6 +65,8 @@ struct Updates : testing::Test {
         canned.install = [this](const AppUpdate& update,
                                 const std::function<void(UpdatesModel::Stage)>& progress) {
             progress(UpdatesModel::Stage::verifying);
+            while (holdInstall)
+                std::this_thread::sleep_for(std::chrono::milliseconds(2));
             {
                 std::lock_guard lock(mutex);
                 installedOrder.push_back(update.name);
@@ -202,6 +207,26 @@ TEST_F(Updates, ABatchGoesOnPastRunningAndFailingAppsInItsOrder) {
     finish(model->scan());
     for (const char* name : {"Alpha", "Beta", "Gamma"})
         EXPECT_EQ(state(name), Kind::idle) << "a new scan forgets " << name;
+}
+
+TEST_F(Updates, StoppingABatchLetsTheCurrentAppFinishAndBeginsNoOther) {
+    finish(model->scan());
+    holdInstall = true;
+    model->requestInstallSelected();
+    model->confirmInstall();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return state("Beta") == Kind::working; }, 20000));
+    model->stopInstalling();
+    EXPECT_TRUE(model->isStopping());
+    EXPECT_EQ(model->installAllText(), qtTrId("updates.stopping"));
+    holdInstall = false;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !model->isBusy(); }, 20000));
+
+    EXPECT_EQ(installedOrder, std::vector<std::string>{"Beta"});
+    EXPECT_EQ(state("Beta"), Kind::installed) << "the app under way is not left half swapped";
+    EXPECT_EQ(state("Zeta"), Kind::idle);
+    EXPECT_TRUE(model->isSelected(row("Zeta"))) << "what was not begun stays ticked for later";
+    EXPECT_FALSE(model->isStopping());
+    EXPECT_EQ(spoken.back(), qtTrId("updates.announce.stopped").arg(1).arg(2));
 }
 
 TEST_F(Updates, RowsThatDoNotInstallOpenOrCopyInstead) {
