@@ -156,7 +156,7 @@ FocusScope {
                 objectName: "installAllKey"
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.model.installAllText
-                kind: PainelButtonKind.Accent
+                kind: root.model.isBusy ? PainelButtonKind.Raised : PainelButtonKind.Accent
                 enabled: root.model.isBusy ? !root.model.isStopping : root.model.selectedCount > 0
                 onClicked: root.model.isBusy ? root.model.stopInstalling() : root.model.requestInstallSelected()
             }

@@ -86,9 +86,13 @@ void runUpdatesChannel(const QString& language, FlatpakFixture& fixture) {
         QmlTestSupport::settle(120);
         QmlTestSupport::saveScreenshot(*window, shot + "4-confirm");
         click(window, find(window, "confirmInstallKey"));
+        if (updates.isBusy()) {
+            EXPECT_EQ(find(window, "installAllKey")->property("text").toString(), qtTrId("updates.stop"));
+            QmlTestSupport::saveScreenshot(*window, shot + "5-installing");
+        }
         waitFor([&] { return !updates.isBusy(); });
         QmlTestSupport::settle(120);
-        QmlTestSupport::saveScreenshot(*window, shot + "5-installed");
+        QmlTestSupport::saveScreenshot(*window, shot + "6-installed");
         const auto after = std::ranges::find(updates.updates(), name, &CleanerCore::AppUpdate::name);
         EXPECT_EQ(updates.state(*after).kind, UpdatesModel::RowState::Kind::installed)
             << updates.state(*after).failure.toStdString();
