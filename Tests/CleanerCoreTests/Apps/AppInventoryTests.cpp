@@ -149,7 +149,6 @@ TEST(InstalledApp, FolderNamesBlockersAndAppleIdentifiers) {
     EXPECT_EQ(blocker("org.example.app", {"org.example.app.helper"}), std::nullopt);
     EXPECT_TRUE((InstalledApp{URL::file("/a"), "a", "COM.APPLE.Foo"}.isApple()));
     EXPECT_FALSE((InstalledApp{URL::file("/a"), "a", "com.applesauce"}.isApple()));
-    EXPECT_EQ(rawValue(UninstallBlocker::zephrane), "zephrane");
 }
 
 TEST(AppBundleInfo, FeedAddressesAreTrimmedAndOnlyWebSchemesKept) {

@@ -50,17 +50,13 @@ TEST(FlatpakUninstall, ReadsTheInstallationAndRefOfADeployFolder) {
 }
 
 TEST(FlatpakUninstall, RemovesTheAppThroughItsInstallation) {
-    FlatpakFixture* fixture = FlatpakFixture::shared();
-    if (fixture == nullptr)
-        GTEST_SKIP() << FlatpakFixture::unavailable();
+    REQUIRE_FLATPAK(fixture);
     fixture->exportApp({"org.zephrane.Test.Leaving", "Leaving", "1.0"});
     fixture->exportApp({"org.zephrane.Test.LeavingWide", "Leaving Wide", "1.0"});
     fixture->install("org.zephrane.Test.Leaving");
     fixture->install("org.zephrane.Test.LeavingWide", FlatpakFixture::Scope::system);
     TestSupport::TempTree home;
-    AppInventory::Sources sources;
-    sources.home = URL::file(home.root().string());
-    sources.flatpaks = true;
+    const AppInventory::Sources sources{.home = URL::file(home.root().string()), .flatpaks = true};
     const auto apps = AppInventory::installedApps({}, sources);
     const auto app = std::ranges::find(apps, std::optional<std::string>("org.zephrane.Test.Leaving"), &InstalledApp::bundleID);
     ASSERT_NE(app, apps.end());

@@ -16,12 +16,6 @@ using TestSupport::FlatpakFixture;
 
 namespace {
 
-// The shared fixture, or a skip that says why flatpak can't be used here.
-#define REQUIRE_FLATPAK(fixture)                                                                             \
-    FlatpakFixture* fixture = FlatpakFixture::shared();                                                      \
-    if (fixture == nullptr)                                                                                  \
-    GTEST_SKIP() << FlatpakFixture::unavailable()
-
 const InstalledApp* findApp(const std::vector<InstalledApp>& apps, const std::string& id) {
     for (const InstalledApp& app : apps)
         if (app.bundleID == id)
@@ -30,10 +24,7 @@ const InstalledApp* findApp(const std::vector<InstalledApp>& apps, const std::st
 }
 
 AppInventory::Sources flatpaksOf(const TestSupport::TempTree& home) {
-    AppInventory::Sources sources;
-    sources.home = URL::file(home.root().string());
-    sources.flatpaks = true;
-    return sources;
+    return {.home = URL::file(home.root().string()), .flatpaks = true};
 }
 
 void setModified(const std::filesystem::path& path, long seconds) {

@@ -169,8 +169,4 @@ TEST(LeftoverKinds, TitlesAndNotesExistInBothLanguages) {
             EXPECT_NE(note(caution, std::string(language)),
                       fmt::format("core.leftoverCaution.{}", rawValue(caution)));
     }
-    EXPECT_EQ(leftoverKind("Preferences/ByHost"), LeftoverKind::preferences);
-    EXPECT_EQ(leftoverKind("PrivilegedHelperTools"), LeftoverKind::startup);
-    EXPECT_EQ(leftoverKind("WebKit"), LeftoverKind::data);
-    EXPECT_EQ(fromRaw<LeftoverKind>("savedState"), LeftoverKind::savedState);
 }

@@ -106,13 +106,3 @@ TEST(LargeFileSort, EachModeThenNamesThenPaths) {
     for (LargeFileSort sort : allLargeFileSorts)
         EXPECT_EQ(sorted(sort, reversed, "en"), sorted(sort, files, "en")) << rawValue(sort);
 }
-
-TEST(LargeFileFilter, TheFilterBarOffersEveryKindAfterAllAndItsChoicesRoundTrip) {
-    const auto kinds = KindOption::options();
-    ASSERT_EQ(kinds.size(), allFileKinds.size() + 1);
-    EXPECT_TRUE(kinds[0].kinds().empty()) << "\"all\" filters nothing out";
-    for (LargeFileAge age : allLargeFileAges)
-        EXPECT_EQ(fromRaw<LargeFileAge>(rawValue(age)), age);
-    for (LargeFileSort sort : allLargeFileSorts)
-        EXPECT_EQ(fromRaw<LargeFileSort>(rawValue(sort)), sort);
-}

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 using namespace CleanerCore;
-using TestSupport::FlatpakFixture;
 
 namespace {
 
@@ -29,9 +28,7 @@ public:
 } // namespace
 
 TEST(FlatpakUpdates, OffersTheRemotesNewerCommitWithItsAppStreamVersion) {
-    FlatpakFixture* fixture = FlatpakFixture::shared();
-    if (fixture == nullptr)
-        GTEST_SKIP() << FlatpakFixture::unavailable();
+    REQUIRE_FLATPAK(fixture);
     const std::string id = "org.zephrane.Test.Updatable";
     const std::string current = "org.zephrane.Test.Current";
     fixture->exportApp({id, "Updatable", "1.0"});
@@ -53,9 +50,7 @@ TEST(FlatpakUpdates, OffersTheRemotesNewerCommitWithItsAppStreamVersion) {
 
     // The finder asks the Flatpak source alone for Flatpak apps, and never the network for them.
     TestSupport::TempTree home;
-    AppInventory::Sources sources;
-    sources.home = URL::file(home.root().string());
-    sources.flatpaks = true;
+    const AppInventory::Sources sources{.home = URL::file(home.root().string()), .flatpaks = true};
     NoNetwork network;
     AppUpdateFinder::Settings settings;
     settings.cacheFolder = home.path("cache").string();
@@ -73,9 +68,7 @@ TEST(FlatpakUpdates, OffersTheRemotesNewerCommitWithItsAppStreamVersion) {
 }
 
 TEST(FlatpakUpdates, AnUpdateTransactionDeploysTheOfferedVersion) {
-    FlatpakFixture* fixture = FlatpakFixture::shared();
-    if (fixture == nullptr)
-        GTEST_SKIP() << FlatpakFixture::unavailable();
+    REQUIRE_FLATPAK(fixture);
     const std::string id = "org.zephrane.Test.Installable";
     fixture->exportApp({id, "Installable", "1.0"});
     fixture->install(id);
