@@ -4,9 +4,11 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -71,6 +73,11 @@ fs::path TempTree::symlink(std::string_view relative, const fs::path& target) co
 std::string readText(const fs::path& path) {
     std::ifstream in(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
+}
+
+bool setTimes(const fs::path& path, std::int64_t accessed, std::int64_t modified) {
+    const struct timespec times[2] = {{accessed, 0}, {modified, 0}};
+    return ::utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
 void isolateHome() {

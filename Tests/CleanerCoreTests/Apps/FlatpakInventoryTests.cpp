@@ -7,9 +7,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
 using namespace CleanerCore;
 using testing::Contains;
 using TestSupport::FlatpakFixture;
@@ -25,11 +22,6 @@ const InstalledApp* findApp(const std::vector<InstalledApp>& apps, const std::st
 
 AppInventory::Sources flatpaksOf(const TestSupport::TempTree& home) {
     return {.home = URL::file(home.root().string()), .flatpaks = true};
-}
-
-void setModified(const std::filesystem::path& path, long seconds) {
-    const struct timespec times[2] = {{seconds, 0}, {seconds, 0}};
-    ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW), 0);
 }
 
 } // namespace
@@ -104,9 +96,10 @@ TEST(FlatpakInventory, LastUseComesFromTheShellElseFromTheAppsOwnFolder) {
               "  <application id=\"org.zephrane.Test.Seen.desktop\" score=\"1\" last-seen=\"1650000000\"/>\n"
               " </context>\n</application-state>\n");
     home.file(".var/app/org.zephrane.Test.Sandboxed/config/settings.ini", 10);
-    setModified(home.path(".var/app/org.zephrane.Test.Sandboxed/config/settings.ini"), 1700000000);
-    setModified(home.path(".var/app/org.zephrane.Test.Sandboxed/config"), 1500000000);
-    setModified(home.path(".var/app/org.zephrane.Test.Sandboxed"), 1500000000);
+    for (const auto& [place, time] :
+         {std::pair{"/config/settings.ini", 1700000000}, {"/config", 1500000000}, {"", 1500000000}})
+        ASSERT_TRUE(TestSupport::setTimes(
+            home.path(".var/app/org.zephrane.Test.Sandboxed" + std::string(place)), time, time));
 
     const auto apps = AppInventory::installedApps({}, flatpaksOf(home));
     const InstalledApp* seen = findApp(apps, "org.zephrane.Test.Seen");

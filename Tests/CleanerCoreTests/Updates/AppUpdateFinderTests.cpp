@@ -2,39 +2,21 @@
 #include "CleanerCore/Updates/ConcurrentCompactMap.hpp"
 #include "CleanerCore/Updates/IgnoredUpdateVersions.hpp"
 #include "CleanerCore/Updates/UpdateFetching.hpp"
+#include "CannedFetcher.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <map>
-#include <mutex>
 #include <thread>
 
 using namespace CleanerCore;
+using TestSupport::CannedFetcher;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
-
-// Canned bodies by URL; anything else fails like an unreachable server. Notes what was asked.
-class CannedFetcher final : public UpdateFetching {
-public:
-    std::map<std::string, std::string> bodies;
-    mutable std::mutex lock;
-    mutable std::vector<std::string> asked;
-
-    std::string data(const URL& from) const override {
-        const std::lock_guard guard(lock);
-        asked.push_back(from.absoluteString());
-        const auto found = bodies.find(from.absoluteString());
-        if (found == bodies.end())
-            throw UpdateFetchError::badStatus(404);
-        return found->second;
-    }
-    URL download(const URL&, const URL&) const override { throw TransferError("not used"); }
-};
 
 AppBundleInfo app(std::string name, std::optional<std::string> id, std::optional<std::string> shortVersion,
                   std::optional<std::string> build = std::nullopt) {

@@ -1,5 +1,6 @@
 #include "CleanerCore/Updates/AppUpdateInstaller.hpp"
 #include "CleanerCore/Updates/SpawnCommandRunner.hpp"
+#include "CannedFetcher.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
@@ -67,22 +68,11 @@ public:
     }
 };
 
-class FakeFetcher final : public UpdateFetching {
-public:
-    fs::path archive;
-    std::string data(const URL&) const override { throw TransferError("not used"); }
-    URL download(const URL&, const URL& folder) const override {
-        const fs::path target = fs::path(folder.path()) / archive.filename();
-        fs::copy_file(archive, target);
-        return URL::file(target.string());
-    }
-};
-
 // An installed Foo 1.0, a download that holds Foo 2.0, and an installer whose tools all pass.
 struct Fixture {
     TestSupport::TempTree tree;
     FakeRunner runner;
-    FakeFetcher fetcher;
+    TestSupport::CannedFetcher fetcher;
     AppUpdateInstaller installer{fetcher, runner};
     AppUpdate update;
     std::vector<URL> trashed;

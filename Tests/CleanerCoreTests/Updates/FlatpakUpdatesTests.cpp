@@ -1,7 +1,7 @@
 #include "CleanerCore/Apps/AppInventory.hpp"
 #include "CleanerCore/Platform/FlatpakUpdates.hpp"
 #include "CleanerCore/Updates/AppUpdateFinder.hpp"
-#include "CleanerCore/Updates/UpdateFetching.hpp"
+#include "CannedFetcher.hpp"
 #include "FlatpakFixture.hpp"
 #include "TempTree.hpp"
 
@@ -18,12 +18,6 @@ const Platform::FlatpakUpdate* findUpdate(const std::vector<Platform::FlatpakUpd
             return &update;
     return nullptr;
 }
-
-class NoNetwork final : public UpdateFetching {
-public:
-    std::string data(const URL&) const override { throw TransferError("offline"); }
-    URL download(const URL&, const URL&) const override { throw TransferError("offline"); }
-};
 
 } // namespace
 
@@ -51,7 +45,7 @@ TEST(FlatpakUpdates, OffersTheRemotesNewerCommitWithItsAppStreamVersion) {
     // The finder asks the Flatpak source alone for Flatpak apps, and never the network for them.
     TestSupport::TempTree home;
     const AppInventory::Sources sources{.home = URL::file(home.root().string()), .flatpaks = true};
-    NoNetwork network;
+    const TestSupport::CannedFetcher network{}; // nothing answers
     AppUpdateFinder::Settings settings;
     settings.cacheFolder = home.path("cache").string();
     settings.caskroomFolders = {};
