@@ -2,6 +2,7 @@
 
 #include "FlatpakFixture.hpp"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
@@ -68,6 +69,15 @@ fs::path TempTree::symlink(std::string_view relative, const fs::path& target) co
     fs::create_directories(link.parent_path());
     fs::create_symlink(target, link);
     return link;
+}
+
+std::vector<std::string> namesIn(const fs::path& folder) {
+    std::vector<std::string> names;
+    std::error_code error;
+    for (auto it = fs::directory_iterator(folder, error); it != fs::directory_iterator(); it.increment(error))
+        names.push_back(it->path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 std::string readText(const fs::path& path) {

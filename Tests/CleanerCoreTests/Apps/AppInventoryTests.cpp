@@ -1,6 +1,7 @@
 #include "CleanerCore/Apps/AppBundleInfo.hpp"
 #include "CleanerCore/Apps/AppInventory.hpp"
 #include "CleanerCore/Removal/SafetyGuard.hpp"
+#include "Mapped.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
@@ -28,10 +29,7 @@ std::filesystem::path bundle(const TestSupport::TempTree& tree, const std::strin
 }
 
 std::vector<std::string> names(const std::vector<InstalledApp>& apps) {
-    std::vector<std::string> out;
-    for (const InstalledApp& app : apps)
-        out.push_back(app.name);
-    return out;
+    return TestSupport::mapped(apps, &InstalledApp::name);
 }
 
 // {CFBundleIdentifier: "com.binary.app", CFBundleShortVersionString: "2.0"} as a binary plist.

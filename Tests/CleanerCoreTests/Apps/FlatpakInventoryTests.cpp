@@ -2,6 +2,7 @@
 #include "CleanerCore/Apps/LeftoverFinder.hpp"
 #include "CleanerCore/Removal/SafetyGuard.hpp"
 #include "FlatpakFixture.hpp"
+#include "Mapped.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
@@ -130,12 +131,10 @@ TEST(FlatpakInventory, WhatAnUninstallLeavesInVarAppIsAnOrphanGroupedWithItsOthe
     const auto groups = LeftoverFinder(URL::file(home.root().string()), std::nullopt).orphans(known);
     ASSERT_EQ(groups.size(), 1u);
     EXPECT_EQ(groups[0].bundleID, "io.leftbehind.gone");
-    std::vector<std::string> paths;
-    for (const CleanupItem& item : groups[0].items)
-        paths.push_back(item.url.path());
-    EXPECT_THAT(paths, testing::UnorderedElementsAre(home.path(".var/app/io.leftbehind.Gone").string(),
-                                                     home.path(".cache/io.leftbehind.Gone").string(),
-                                                     home.path(".config/io.leftbehind.Gone.conf").string()));
+    EXPECT_THAT(TestSupport::mapped(groups[0].items, [](const CleanupItem& item) { return item.url.path(); }),
+                testing::UnorderedElementsAre(home.path(".var/app/io.leftbehind.Gone").string(),
+                                              home.path(".cache/io.leftbehind.Gone").string(),
+                                              home.path(".config/io.leftbehind.Gone.conf").string()));
     EXPECT_EQ(groups[0].items[0].url.path(), home.path(".var/app/io.leftbehind.Gone").string());
 }
 

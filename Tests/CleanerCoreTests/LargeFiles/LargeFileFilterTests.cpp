@@ -2,6 +2,7 @@
 #include "CleanerCore/LargeFiles/LargeFileFilter.hpp"
 #include "CleanerCore/LargeFiles/LargeFileSort.hpp"
 #include "CleanerCore/LargeFiles/SizeOption.hpp"
+#include "Mapped.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -32,10 +33,7 @@ LargeFile file(std::string path, std::int64_t size, std::optional<Clock::time_po
 }
 
 std::vector<std::string> names(const std::vector<LargeFile>& files) {
-    std::vector<std::string> out;
-    for (const LargeFile& f : files)
-        out.push_back(f.url.path());
-    return out;
+    return TestSupport::mapped(files, [](const LargeFile& file) { return file.url.path(); });
 }
 
 } // namespace

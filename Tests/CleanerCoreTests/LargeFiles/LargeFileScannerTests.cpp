@@ -2,6 +2,7 @@
 #include "CleanerCore/LargeFiles/ReferenceLargeFileScanner.hpp"
 #include "DeepChain.hpp"
 #include "FaultySystemCalls.hpp"
+#include "Mapped.hpp"
 #include "ScopedEnvironment.hpp"
 #include "TempTree.hpp"
 
@@ -28,10 +29,8 @@ constexpr std::int64_t minimum = 64 * 1024;
 
 // Paths of the files, relative to `root`, in the given order.
 std::vector<std::string> relative(const std::vector<LargeFile>& files, const fs::path& root) {
-    std::vector<std::string> out;
-    for (const LargeFile& file : files)
-        out.push_back(file.url.path().substr(root.string().size() + 1));
-    return out;
+    return TestSupport::mapped(
+        files, [&](const LargeFile& file) { return file.url.path().substr(root.string().size() + 1); });
 }
 
 std::vector<LargeFile> byPath(std::vector<LargeFile> files) {
@@ -114,9 +113,7 @@ TEST(LargeFileScanner, AreasAndEventsComeInOrder) {
     tree.file("plain-file");
 
     const LargeFileScanner scanner = LargeFileScanner::forHome(URL::file(tree.root().string()), minimum);
-    std::vector<std::string> areas;
-    for (const URL& area : scanner.areas())
-        areas.push_back(area.lastPathComponent());
+    const std::vector<std::string> areas = TestSupport::mapped(scanner.areas(), &URL::lastPathComponent);
     EXPECT_THAT(areas, ElementsAre("Music", "a", "b", "c.d"));
 
     std::vector<LargeFileScanEvent> events;

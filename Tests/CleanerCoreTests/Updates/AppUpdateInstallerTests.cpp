@@ -1,6 +1,6 @@
+#include "CannedFetcher.hpp"
 #include "CleanerCore/Updates/AppUpdateInstaller.hpp"
 #include "CleanerCore/Updates/SpawnCommandRunner.hpp"
-#include "CannedFetcher.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
@@ -115,10 +115,7 @@ struct Fixture {
     }
 
     void expectNothingLeftOver() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(tree.path("Applications")))
-            names.push_back(entry.path().filename().string());
-        EXPECT_THAT(names, ElementsAre("Foo.app"));
+        EXPECT_THAT(TestSupport::namesIn(tree.path("Applications")), ElementsAre("Foo.app"));
         EXPECT_TRUE(!fs::exists(tree.path("work")) || fs::is_empty(tree.path("work")));
     }
 };

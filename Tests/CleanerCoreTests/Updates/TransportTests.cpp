@@ -47,14 +47,6 @@ template <typename Call> std::optional<UpdateFetchError> fetchError(Call call) {
     return std::nullopt;
 }
 
-std::vector<std::string> filesIn(const std::filesystem::path& folder) {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
 } // namespace
 
 TEST(CurlUpdateFetcher, ReturnsBodiesAndTurnsOtherStatusesIntoErrors) {
@@ -111,7 +103,7 @@ TEST(CurlUpdateFetcher, DownloadsUnderTheBestNameAndCleansUpOnFailure) {
     ASSERT_TRUE(error.has_value());
     EXPECT_EQ(error->status(), 404);
     EXPECT_THROW(fetcher.download(URL::parse(server.url("/to-file")), folder), TransferError);
-    EXPECT_THAT(filesIn(tree.path("downloads")),
+    EXPECT_THAT(TestSupport::namesIn(tree.path("downloads")),
                 testing::ElementsAre("App.zip", "Suggested 1.2.dmg", "update"))
         << "no partial file is left behind";
 }
@@ -137,7 +129,8 @@ TEST(SpawnCommandRunner, CollectsOutputPastAPipesCapacityAndTheExitStatus) {
 
     EXPECT_THROW(runner.run(tree.path("no-such-program").string(), {}, std::chrono::seconds(1)),
                  std::system_error);
-    EXPECT_THAT(filesIn(tree.path("tmp")), IsEmpty()) << "the output files go, also when the launch failed";
+    EXPECT_THAT(TestSupport::namesIn(tree.path("tmp")), IsEmpty())
+        << "the output files go, also when the launch failed";
 }
 
 TEST(SpawnCommandRunner, TerminatesAChildThatOutlivesItsTimeout) {
@@ -147,5 +140,5 @@ TEST(SpawnCommandRunner, TerminatesAChildThatOutlivesItsTimeout) {
                                                  std::chrono::milliseconds(300));
     EXPECT_EQ(result.status, 128 + SIGTERM);
     EXPECT_EQ(result.standardOutput, "started\n") << "what was written before the end is kept";
-    EXPECT_THAT(filesIn(tree.path("tmp")), IsEmpty());
+    EXPECT_THAT(TestSupport::namesIn(tree.path("tmp")), IsEmpty());
 }
