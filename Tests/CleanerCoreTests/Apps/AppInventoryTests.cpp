@@ -149,9 +149,7 @@ TEST(AppBundleInfo, FeedAddressesAreTrimmedAndOnlyWebSchemesKept) {
 
 TEST(AppInventory, AppImagesAreKnownByTheirMagicNotTheirName) {
     TestSupport::TempTree home;
-    const std::string elf = std::string("\x7f"
-                                        "ELF\x02\x01\x01\x00",
-                                        8);
+    const std::string elf("\177ELF\2\1\1\0", 8);
     home.text("Applications/Krita-5.2.AppImage", elf + "AI\x02" + std::string(100, '\0'));
     home.text(".local/bin/renamed", elf + std::string("AI\x01", 3) + std::string(100, '\0'));
     home.text(".local/bin/plain-elf", elf + std::string(100, '\0'));

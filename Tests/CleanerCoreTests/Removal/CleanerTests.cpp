@@ -26,17 +26,13 @@ class CleanerTest : public testing::Test {
 protected:
     void SetUp() override { CoreL10n::setCurrentLanguage("en"); }
 
-    RemovalReport remove(RemovalMode mode, const std::vector<fs::path>& paths, std::int64_t size = 10) const {
-        std::vector<std::pair<fs::path, std::int64_t>> sized;
-        for (const fs::path& path : paths)
-            sized.emplace_back(path, size);
-        return remove(mode, sized);
-    }
-    RemovalReport remove(RemovalMode mode,
-                         const std::vector<std::pair<fs::path, std::int64_t>>& sized) const {
+    // Each item claims 10 bytes, or what `sizes` says at its place.
+    RemovalReport remove(RemovalMode mode, const std::vector<fs::path>& paths,
+                         const std::vector<std::int64_t>& sizes = {}) const {
         std::vector<CleanupItem> items;
-        for (const auto& [path, size] : sized)
-            items.push_back({URL::file(path.string()), size, std::nullopt, true});
+        for (std::size_t i = 0; i < paths.size(); ++i)
+            items.push_back(
+                {URL::file(paths[i].string()), i < sizes.size() ? sizes[i] : 10, std::nullopt, true});
         return Cleaner(mode, URL::file(home.string()), std::nullopt).remove(items);
     }
 
@@ -215,11 +211,9 @@ TEST_F(CleanerTest, AnItemInsideAnotherSelectedOneGoesWithItAndCountsOnce) {
         for (bool innerFirst : {false, true}) {
             const fs::path inner = tree.file("home/Downloads/folder/inner.txt", 3);
             const fs::path folder = inner.parent_path();
-            std::vector<std::pair<fs::path, std::int64_t>> items{
-                {folder, 100}, {inner, 10}, {folder / "", 100}};
-            if (innerFirst)
-                std::swap(items[0], items[1]);
-            const RemovalReport report = remove(mode, items);
+            const RemovalReport report = innerFirst
+                                             ? remove(mode, {inner, folder, folder / ""}, {10, 100, 100})
+                                             : remove(mode, {folder, inner, folder / ""}, {100, 10, 100});
             EXPECT_TRUE(report.failures.empty());
             EXPECT_EQ(report.removed.size(), 3u);
             EXPECT_EQ(report.bytes, 100);
