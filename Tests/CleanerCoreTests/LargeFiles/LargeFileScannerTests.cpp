@@ -39,8 +39,9 @@ std::vector<LargeFile> byPath(std::vector<LargeFile> files) {
     return files;
 }
 
-std::vector<LargeFile> scanHome(const fs::path& home, std::int64_t floor = minimum) {
-    return LargeFileScanner::forHome(URL::file(home.string()), floor).scan(LargeFileScanner::Events{});
+std::vector<LargeFile> scanHome(const fs::path& home, std::int64_t floor = minimum,
+                                const LargeFileScanner::Events& events = {}, std::stop_token stop = {}) {
+    return LargeFileScanner::forHome(URL::file(home.string()), floor).scan(events, stop);
 }
 
 } // namespace
@@ -158,15 +159,11 @@ TEST(LargeFileScanner, StoppingReturnsWhatWasFoundSoFar) {
         tree.file(big, minimum);
     std::stop_source stop;
     std::vector<LargeFile> seen;
-    const auto found = LargeFileScanner::forHome(URL::file(tree.root().string()), minimum)
-                           .scan(
-                               [&](const LargeFileScanEvent& event) {
-                                   if (const auto* f = event.as<LargeFileScanEvent::Found>()) {
-                                       seen.push_back(f->file);
-                                       stop.request_stop();
-                                   }
-                               },
-                               stop.get_token());
+    const auto stopAtFirst = [&](const LargeFileScanEvent& event) {
+        if (const auto* f = event.as<LargeFileScanEvent::Found>())
+            seen.push_back(f->file), stop.request_stop();
+    };
+    const auto found = scanHome(tree.root(), minimum, stopAtFirst, stop.get_token());
     ASSERT_EQ(found.size(), 1u);
     EXPECT_EQ(found, seen);
     EXPECT_EQ(found[0].name(), "1");
