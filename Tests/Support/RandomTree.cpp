@@ -1,6 +1,7 @@
 #include "RandomTree.hpp"
 
 #include <algorithm>
+#include <cstdio>
 #include <fcntl.h>
 #include <fstream>
 #include <random>
