@@ -69,3 +69,9 @@ private:
 void isolateFlatpak(const std::filesystem::path& base);
 
 } // namespace TestSupport
+
+// In a test body: `fixture` is the shared fixture, or the test is skipped saying why there is none.
+#define REQUIRE_FLATPAK(fixture)                                                                             \
+    TestSupport::FlatpakFixture* fixture = TestSupport::FlatpakFixture::shared();                            \
+    if (fixture == nullptr)                                                                                  \
+    GTEST_SKIP() << TestSupport::FlatpakFixture::unavailable()

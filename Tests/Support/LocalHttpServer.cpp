@@ -12,18 +12,6 @@
 namespace TestSupport {
 namespace {
 
-const char* reason(int status) {
-    switch (status) {
-    case 200: return "OK";
-    case 204: return "No Content";
-    case 301: return "Moved Permanently";
-    case 302: return "Found";
-    case 304: return "Not Modified";
-    case 404: return "Not Found";
-    default: return "Status";
-    }
-}
-
 bool sendAll(int socket, std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t sent = ::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
@@ -100,7 +88,8 @@ void LocalHttpServer::answer(int client) {
     const std::string path = request.substr(pathStart, request.find(' ', pathStart) - pathStart);
     const Response response = handler(path);
 
-    std::string head = "HTTP/1.1 " + std::to_string(response.status) + " " + reason(response.status) + "\r\n";
+    // Clients read the code alone; the reason phrase is any text.
+    std::string head = "HTTP/1.1 " + std::to_string(response.status) + " Status\r\n";
     for (const auto& [name, value] : response.headers)
         head += name + ": " + value + "\r\n";
     if (response.status != 204 && response.status != 304)

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace TestSupport {
 
@@ -26,6 +28,13 @@ public:
 private:
     std::filesystem::path base;
 };
+
+// Sets the last access and last change of `path` (a link itself, not its target), in seconds
+// since 1970; returns whether that worked.
+bool setTimes(const std::filesystem::path& path, std::int64_t accessed, std::int64_t modified);
+
+// The names in `folder`, sorted; none when it can't be listed.
+std::vector<std::string> namesIn(const std::filesystem::path& folder);
 
 // A file's whole content; empty when it can't be read.
 std::string readText(const std::filesystem::path& path);

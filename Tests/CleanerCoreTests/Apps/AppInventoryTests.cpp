@@ -1,6 +1,7 @@
 #include "CleanerCore/Apps/AppBundleInfo.hpp"
 #include "CleanerCore/Apps/AppInventory.hpp"
 #include "CleanerCore/Removal/SafetyGuard.hpp"
+#include "Mapped.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
@@ -28,44 +29,16 @@ std::filesystem::path bundle(const TestSupport::TempTree& tree, const std::strin
 }
 
 std::vector<std::string> names(const std::vector<InstalledApp>& apps) {
-    std::vector<std::string> out;
-    for (const InstalledApp& app : apps)
-        out.push_back(app.name);
-    return out;
+    return TestSupport::mapped(apps, &InstalledApp::name);
 }
 
-// The binary form of {CFBundleIdentifier: "com.binary.app", CFBundleShortVersionString: "2.0"}.
-std::string binaryPlist() {
-    std::string out = "bplist00";
-    const auto ascii = [&out](const std::string& text) {
-        out += static_cast<char>(0x50 | text.size());
-        out += text;
-    };
-    std::vector<std::size_t> offsets;
-    offsets.push_back(out.size());
-    out += "\xd2\x01\x02\x03\x04"; // dict of 2: keys 1, 2; values 3, 4
-    for (const char* text : {"CFBundleIdentifier", "CFBundleShortVersionString", "com.binary.app", "2.0"}) {
-        offsets.push_back(out.size());
-        const std::string value = text;
-        if (value.size() < 15) {
-            ascii(value);
-        } else {
-            out += "\x5f\x10";
-            out += static_cast<char>(value.size());
-            out += value;
-        }
-    }
-    const std::size_t table = out.size();
-    for (std::size_t offset : offsets)
-        out += static_cast<char>(offset);
-    out += std::string(6, '\0');
-    out += '\x01'; // offset size
-    out += '\x01'; // object reference size
-    out += std::string(7, '\0') + static_cast<char>(offsets.size());
-    out += std::string(8, '\0');
-    out += std::string(7, '\0') + static_cast<char>(table);
-    return out;
-}
+// {CFBundleIdentifier: "com.binary.app", CFBundleShortVersionString: "2.0"} as a binary plist.
+const std::string
+    binaryPlist("bplist00\xd2\x01\x02\x03\x04_\x10\x12"
+                "CFBundleIdentifier_\x10\x1a"
+                "CFBundleShortVersionString^com.binary.appS2.0\x08\x0d\x22?N\0\0\0\0\0\0\x01\x01"
+                "\0\0\0\0\0\0\0\x05\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0R",
+                119);
 
 } // namespace
 
@@ -88,7 +61,7 @@ TEST(AppInventory, FindsBundlesOneFolderDeepSortedNaturallyWithoutDeduplication)
     tree.text("Applications/Array.app/Contents/Info.plist",
               "<plist><array><string>x</string></array></plist>");
     tree.text("Applications/Garbage.app/Contents/Info.plist", std::string("bplist00\xff\xff\x00\x01", 12));
-    tree.text("Applications/Binary.app/Contents/Info.plist", binaryPlist());
+    tree.text("Applications/Binary.app/Contents/Info.plist", binaryPlist);
     bundle(tree, "home/Applications/Tool.app", {{"CFBundleIdentifier", "<integer>7</integer>"}});
 
     const auto apps = AppInventory::installedApps(
@@ -149,7 +122,6 @@ TEST(InstalledApp, FolderNamesBlockersAndAppleIdentifiers) {
     EXPECT_EQ(blocker("org.example.app", {"org.example.app.helper"}), std::nullopt);
     EXPECT_TRUE((InstalledApp{URL::file("/a"), "a", "COM.APPLE.Foo"}.isApple()));
     EXPECT_FALSE((InstalledApp{URL::file("/a"), "a", "com.applesauce"}.isApple()));
-    EXPECT_EQ(rawValue(UninstallBlocker::zephrane), "zephrane");
 }
 
 TEST(AppBundleInfo, FeedAddressesAreTrimmedAndOnlyWebSchemesKept) {
@@ -177,9 +149,7 @@ TEST(AppBundleInfo, FeedAddressesAreTrimmedAndOnlyWebSchemesKept) {
 
 TEST(AppInventory, AppImagesAreKnownByTheirMagicNotTheirName) {
     TestSupport::TempTree home;
-    const std::string elf = std::string("\x7f"
-                                        "ELF\x02\x01\x01\x00",
-                                        8);
+    const std::string elf("\177ELF\2\1\1\0", 8);
     home.text("Applications/Krita-5.2.AppImage", elf + "AI\x02" + std::string(100, '\0'));
     home.text(".local/bin/renamed", elf + std::string("AI\x01", 3) + std::string(100, '\0'));
     home.text(".local/bin/plain-elf", elf + std::string(100, '\0'));

@@ -2,19 +2,21 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 using namespace CleanerCore::BundleIDMatcher;
 
 TEST(BundleIDMatcher, NormalizeStripsTeamGroupAndOneEnding) {
-    EXPECT_EQ(normalize("ABCDE12345.com.foo.plist"), "com.foo");
-    EXPECT_EQ(normalize("group.com.foo"), "com.foo");
-    EXPECT_EQ(normalize("ABCDE12345.group.com.foo"), "com.foo");
-    EXPECT_EQ(normalize("abcde12345.com.foo"), "abcde12345.com.foo"); // lower case is no team id
-    EXPECT_EQ(normalize("ABCDE1234.com.foo"), "abcde1234.com.foo");   // nine characters neither
-    EXPECT_EQ(normalize("com.foo.plist.plist"), "com.foo.plist");
-    EXPECT_EQ(normalize("com.foo.savedState"), "com.foo");
-    EXPECT_EQ(normalize("org.example.App.desktop"), "org.example.app");
-    EXPECT_EQ(normalize("Ünïcode.Näme"), "ünïcode.näme");
-    EXPECT_EQ(normalize("Bad\xff.Name.plist"), "bad\xff.name") << "bytes that are not UTF-8 are kept";
+    // A team id is ten upper-case letters or digits; bytes that are not UTF-8 are kept.
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {"ABCDE12345.com.foo.plist", "com.foo"},    {"group.com.foo", "com.foo"},
+        {"ABCDE12345.group.com.foo", "com.foo"},    {"abcde12345.com.foo", "abcde12345.com.foo"},
+        {"ABCDE1234.com.foo", "abcde1234.com.foo"}, {"com.foo.plist.plist", "com.foo.plist"},
+        {"com.foo.savedState", "com.foo"},          {"org.example.App.desktop", "org.example.app"},
+        {"Ünïcode.Näme", "ünïcode.näme"},           {"Bad\xff.Name.plist", "bad\xff.name"}};
+    for (const auto& [name, normalized] : cases)
+        EXPECT_EQ(normalize(name), normalized) << name;
 }
 
 TEST(BundleIDMatcher, EntryBelongsOnlyAtADotBoundary) {

@@ -2,25 +2,17 @@
 #include "CleanerCore/Apps/LeftoverFinder.hpp"
 #include "CleanerCore/Removal/SafetyGuard.hpp"
 #include "FlatpakFixture.hpp"
+#include "Mapped.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <fcntl.h>
-#include <sys/stat.h>
 
 using namespace CleanerCore;
 using testing::Contains;
 using TestSupport::FlatpakFixture;
 
 namespace {
-
-// The shared fixture, or a skip that says why flatpak can't be used here.
-#define REQUIRE_FLATPAK(fixture)                                                                             \
-    FlatpakFixture* fixture = FlatpakFixture::shared();                                                      \
-    if (fixture == nullptr)                                                                                  \
-    GTEST_SKIP() << FlatpakFixture::unavailable()
 
 const InstalledApp* findApp(const std::vector<InstalledApp>& apps, const std::string& id) {
     for (const InstalledApp& app : apps)
@@ -30,15 +22,7 @@ const InstalledApp* findApp(const std::vector<InstalledApp>& apps, const std::st
 }
 
 AppInventory::Sources flatpaksOf(const TestSupport::TempTree& home) {
-    AppInventory::Sources sources;
-    sources.home = URL::file(home.root().string());
-    sources.flatpaks = true;
-    return sources;
-}
-
-void setModified(const std::filesystem::path& path, long seconds) {
-    const struct timespec times[2] = {{seconds, 0}, {seconds, 0}};
-    ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW), 0);
+    return {.home = URL::file(home.root().string()), .flatpaks = true};
 }
 
 } // namespace
@@ -113,9 +97,10 @@ TEST(FlatpakInventory, LastUseComesFromTheShellElseFromTheAppsOwnFolder) {
               "  <application id=\"org.zephrane.Test.Seen.desktop\" score=\"1\" last-seen=\"1650000000\"/>\n"
               " </context>\n</application-state>\n");
     home.file(".var/app/org.zephrane.Test.Sandboxed/config/settings.ini", 10);
-    setModified(home.path(".var/app/org.zephrane.Test.Sandboxed/config/settings.ini"), 1700000000);
-    setModified(home.path(".var/app/org.zephrane.Test.Sandboxed/config"), 1500000000);
-    setModified(home.path(".var/app/org.zephrane.Test.Sandboxed"), 1500000000);
+    for (const auto& [place, time] :
+         {std::pair{"/config/settings.ini", 1700000000}, {"/config", 1500000000}, {"", 1500000000}})
+        ASSERT_TRUE(TestSupport::setTimes(
+            home.path(".var/app/org.zephrane.Test.Sandboxed" + std::string(place)), time, time));
 
     const auto apps = AppInventory::installedApps({}, flatpaksOf(home));
     const InstalledApp* seen = findApp(apps, "org.zephrane.Test.Seen");
@@ -146,12 +131,10 @@ TEST(FlatpakInventory, WhatAnUninstallLeavesInVarAppIsAnOrphanGroupedWithItsOthe
     const auto groups = LeftoverFinder(URL::file(home.root().string()), std::nullopt).orphans(known);
     ASSERT_EQ(groups.size(), 1u);
     EXPECT_EQ(groups[0].bundleID, "io.leftbehind.gone");
-    std::vector<std::string> paths;
-    for (const CleanupItem& item : groups[0].items)
-        paths.push_back(item.url.path());
-    EXPECT_THAT(paths, testing::UnorderedElementsAre(home.path(".var/app/io.leftbehind.Gone").string(),
-                                                     home.path(".cache/io.leftbehind.Gone").string(),
-                                                     home.path(".config/io.leftbehind.Gone.conf").string()));
+    EXPECT_THAT(TestSupport::mapped(groups[0].items, [](const CleanupItem& item) { return item.url.path(); }),
+                testing::UnorderedElementsAre(home.path(".var/app/io.leftbehind.Gone").string(),
+                                              home.path(".cache/io.leftbehind.Gone").string(),
+                                              home.path(".config/io.leftbehind.Gone.conf").string()));
     EXPECT_EQ(groups[0].items[0].url.path(), home.path(".var/app/io.leftbehind.Gone").string());
 }
 

@@ -1,6 +1,7 @@
 #include "CleanerCore/Apps/LeftoverFinder.hpp"
 #include "CleanerCore/Display/CoreL10n.hpp"
 #include "FaultySystemCalls.hpp"
+#include "Mapped.hpp"
 #include "TempTree.hpp"
 
 #include <fmt/format.h>
@@ -30,10 +31,8 @@ protected:
     }
 
     std::vector<std::string> paths(const std::vector<AppLeftover>& leftovers) const {
-        std::vector<std::string> out;
-        for (const AppLeftover& leftover : leftovers)
-            out.push_back(leftover.url.path());
-        return out;
+        return TestSupport::mapped(leftovers,
+                                   [](const AppLeftover& leftover) { return leftover.url.path(); });
     }
 };
 
@@ -169,8 +168,4 @@ TEST(LeftoverKinds, TitlesAndNotesExistInBothLanguages) {
             EXPECT_NE(note(caution, std::string(language)),
                       fmt::format("core.leftoverCaution.{}", rawValue(caution)));
     }
-    EXPECT_EQ(leftoverKind("Preferences/ByHost"), LeftoverKind::preferences);
-    EXPECT_EQ(leftoverKind("PrivilegedHelperTools"), LeftoverKind::startup);
-    EXPECT_EQ(leftoverKind("WebKit"), LeftoverKind::data);
-    EXPECT_EQ(fromRaw<LeftoverKind>("savedState"), LeftoverKind::savedState);
 }

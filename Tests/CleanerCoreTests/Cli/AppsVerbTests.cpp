@@ -18,11 +18,7 @@ void buildHome(const TestSupport::TempTree& home) {
               "<key>CFBundleShortVersionString</key><string>3.1</string></dict></plist>");
     home.file("Library/Preferences/net.mapper.App.plist", 100);
     home.file("Library/Group Containers/group.net.mapper.App/db", 5000);
-    home.text(".local/bin/Tiled", std::string("\x7f"
-                                              "ELF\x02\x01\x01\x00"
-                                              "AI\x02",
-                                              11) +
-                                      std::string(8192, 'x'));
+    home.text(".local/bin/Tiled", std::string("\177ELF\2\1\1\0AI\2", 11) + std::string(8192, 'x'));
     home.file(".var/app/io.removed.Player/data/cache.bin", 9000);
     home.file(".local/share/io.removed.Player/x", 10);
 }

@@ -23,28 +23,13 @@ TEST(Cli, HelpAndVersionSucceed) {
 }
 
 TEST(Cli, BadUsageIsOneLineOnStderrWithStatusTwo) {
-    for (const std::string line : {"",
-                                   "frobnicate",
-                                   "--nope",
-                                   "size",
-                                   "size --keep 1 /",
-                                   "tree",
-                                   "tree / --keep many",
-                                   "guard",
-                                   "guard --force /tmp/x",
-                                   "apps /tmp",
-                                   "junk /tmp",
-                                   "leftovers --app",
-                                   "leftovers somewhere",
-                                   "large --min -5",
-                                   "large --min 12k",
-                                   "large --age 2y",
-                                   "large --kind movie",
-                                   "large --sort date",
-                                   "large --min",
-                                   "large --colour",
-                                   "large /tmp /tmp",
-                                   "large /nonexistent/zephrane"}) {
+    // Every misuse, "|" between them; the first is no argument at all.
+    std::istringstream misuses("|frobnicate|--nope|size|size --keep 1 /|tree|tree / --keep many|guard|"
+                               "guard --force /tmp/x|apps /tmp|junk /tmp|leftovers --app|leftovers somewhere|"
+                               "large --min -5|large --min 12k|large --age 2y|large --kind movie|"
+                               "large --sort date|large --min|large --colour|large /tmp /tmp|"
+                               "large /nonexistent/zephrane");
+    for (std::string line; std::getline(misuses, line, '|');) {
         std::istringstream split(line);
         const auto result = run({std::istream_iterator<std::string>(split), {}});
         EXPECT_EQ(result.status, 2) << line;

@@ -6,9 +6,6 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
 namespace {
 
 CliTest::Result large(std::vector<std::string> arguments) {
@@ -17,8 +14,7 @@ CliTest::Result large(std::vector<std::string> arguments) {
 }
 
 void makeOld(const std::filesystem::path& path) {
-    const struct timespec times[2] = {{1'000'000'000, 0}, {1'000'000'000, 0}}; // 2001
-    ::utimensat(AT_FDCWD, path.c_str(), times, 0);
+    TestSupport::setTimes(path, 1'000'000'000, 1'000'000'000); // 2001
 }
 
 } // namespace

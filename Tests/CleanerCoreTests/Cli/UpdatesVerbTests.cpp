@@ -9,7 +9,6 @@
 
 using CliTest::run;
 using testing::HasSubstr;
-using TestSupport::FlatpakFixture;
 
 namespace {
 
@@ -23,9 +22,7 @@ nlohmann::json updateOf(const nlohmann::json& report, const std::string& id) {
 } // namespace
 
 TEST(UpdatesVerb, ReportsFlatpakUpdatesOnlineAndFromLocalDataOffline) {
-    FlatpakFixture* fixture = FlatpakFixture::shared();
-    if (fixture == nullptr)
-        GTEST_SKIP() << FlatpakFixture::unavailable();
+    REQUIRE_FLATPAK(fixture);
     const std::string id = "org.zephrane.Test.CliUpdatable";
     fixture->exportApp({id, "Cli Updatable", "0.9"});
     fixture->install(id);

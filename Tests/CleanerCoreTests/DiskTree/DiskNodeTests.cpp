@@ -1,5 +1,6 @@
 #include "CleanerCore/DiskTree/DiskNode.hpp"
 #include "DiskTreeChecks.hpp"
+#include "Mapped.hpp"
 
 #include <gtest/gtest.h>
 
@@ -33,10 +34,9 @@ TEST(DiskNode, FindsNodesAndPathsByUrl) {
 
     const auto path = DiskNode::pathTo(root, URL::file("/r/a/y"));
     ASSERT_TRUE(path.has_value());
-    std::vector<std::string> names;
-    for (const auto& node : *path)
-        names.emplace_back(node->name());
-    EXPECT_EQ(names, (std::vector<std::string>{"r", "a", "y"}));
+    EXPECT_EQ(
+        TestSupport::mapped(*path, [](const DiskNode::Pointer& node) { return std::string(node->name()); }),
+        (std::vector<std::string>{"r", "a", "y"}));
     EXPECT_EQ(DiskNode::pathTo(root, URL::file("/r/a/nothing")), std::nullopt);
 }
 

@@ -3,6 +3,7 @@
 #include "DeepChain.hpp"
 #include "DiskTreeChecks.hpp"
 #include "FaultySystemCalls.hpp"
+#include "RandomTree.hpp"
 #include "TempTree.hpp"
 
 #include <gtest/gtest.h>
@@ -22,77 +23,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Shape {
-    bool appleDouble = false; // "._" files and folders, which only the reference shows
-    bool locked = false;      // folders named "locked…", which tests make unreadable
-};
-
-// A random tree with every kind of item a disk holds: nested folders (deeper than the fan-out),
-// files of every size class around the fold thresholds, packages, hard links, links to files and
-// folders (one back to the root), dangling links, pipes, empty folders, names with spaces and
-// bytes that are not UTF-8.
-void randomTree(const TempTree& tree, unsigned seed, Shape shape) {
-    std::mt19937 random(seed);
-    const auto pick = [&](std::size_t n) { return static_cast<std::size_t>(random() % n); };
-    const std::vector<std::string> stems{"a",          "Docs",    "caf\xc3\xa9", "bad\xff\xfe",
-                                         "with space", ".hidden", "\x80"};
-    const std::vector<std::size_t> sizes{0, 1, 4095, 4097, 9000, 50'000, 300'000, 1'100'000};
-    std::vector<fs::path> folders{tree.root()}, files;
-    const auto write = [&](const fs::path& path, std::size_t bytes) {
-        tree.file(fs::relative(path, tree.root()).string(), bytes);
-        files.push_back(path);
-    };
-    for (int step = 0, steps = 120 + static_cast<int>(pick(180)); step < steps; ++step) {
-        const fs::path parent = folders[pick(folders.size())];
-        const std::string name = stems[pick(stems.size())] + std::to_string(step);
-        switch (pick(12)) {
-        case 0:
-        case 1:
-        case 2: {
-            const fs::path folder = (random() % 2 ? folders.back() : parent) / name;
-            fs::create_directory(folder);
-            folders.push_back(folder);
-            break;
-        }
-        case 3: { // a package holds files and folders but stays one leaf
-            const fs::path package = parent / (name + ".app");
-            write(package / "Contents" / "binary", sizes[pick(sizes.size())]);
-            write(package / "Info.plist", 100);
-            break;
-        }
-        case 4:
-            if (!files.empty()) {
-                EXPECT_EQ(::link(files[pick(files.size())].c_str(), (parent / name).c_str()), 0);
-            }
-            break;
-        case 5:
-            fs::create_symlink(random() % 2 ? folders[pick(folders.size())] : tree.root(), parent / name);
-            break;
-        case 6:
-            fs::create_symlink(random() % 2 && !files.empty() ? files[pick(files.size())] : "/nowhere",
-                               parent / name);
-            break;
-        case 7:
-            EXPECT_EQ(::mkfifo((parent / name).c_str(), 0600), 0);
-            break;
-        case 8:
-            if (shape.appleDouble)
-                write(parent / ("._" + name), 4096);
-            else
-                fs::create_directory(parent / name);
-            break;
-        case 9:
-            if (shape.locked) {
-                write(parent / ("locked" + name) / "inside", 5000);
-                break;
-            }
-            [[fallthrough]];
-        default:
-            write(parent / name, sizes[pick(sizes.size())]);
-        }
-    }
-    if (shape.appleDouble)
-        fs::create_directory(folders[pick(folders.size())] / "._folder");
+// Every kind of item a disk holds: nested folders deeper than the fan-out, files of every size
+// class around the fold thresholds, packages, hard links, links (one back to the root), dangling
+// links, pipes, empty folders, names with spaces and bytes that are not UTF-8.
+TestSupport::RandomTreeOptions everything(bool appleDoubleAndLocked = false) {
+    return {.stems = {"a", "Docs", "caf\xc3\xa9", "bad\xff\xfe", "with space", ".hidden", "\x80"},
+            .sizes = {0, 1, 4095, 4097, 9000, 50'000, 300'000, 1'100'000},
+            .steps = 120,
+            .extraSteps = 180,
+            .packages = {".app"},
+            .hardLinks = true,
+            .appleDouble = appleDoubleAndLocked,
+            .locked = appleDoubleAndLocked};
 }
 
 void visit(const DiskNode& node, const std::function<void(const DiskNode&)>& see) {
@@ -128,7 +70,7 @@ std::string compare(const fs::path& root, Fold fold) {
 TEST(DiskTreeAgreement, RandomTreesGiveTheReferenceTreeAtEveryFold) {
     for (unsigned seed = 1; seed <= 10; ++seed) {
         TempTree tree;
-        randomTree(tree, seed, {});
+        TestSupport::randomTree(tree.root(), seed, everything());
         for (const Fold fold : {Fold{12, 1'000'000}, Fold{2, 8192}, Fold{0, 4097}, Fold{5, 0}, noFold})
             EXPECT_EQ(compare(tree.root(), fold), "")
                 << "seed " << seed << ", keep " << fold.alwaysKeep << ", minimum " << fold.minimumNodeSize;
@@ -145,7 +87,7 @@ TEST(DiskTreeAgreement, AppleDoubleNamesAndUnreadableFoldersDifferOnlyAsIntended
     };
     for (unsigned seed = 20; seed < 26; ++seed) {
         TempTree tree;
-        randomTree(tree, seed, {.appleDouble = true, .locked = true});
+        TestSupport::randomTree(tree.root(), seed, everything(true));
         const auto reference = ReferenceDiskTreeScanner{tree.root().string(), 0, noFold.alwaysKeep}.scan();
         std::unordered_set<URL> hidden;
         visit(*reference, [&](const DiskNode& node) {

@@ -4,13 +4,13 @@
 #include "CleanerCore/Files/FileSize.hpp"
 #include "DiskTreeChecks.hpp"
 #include "FaultySystemCalls.hpp"
+#include "Mapped.hpp"
+#include "ScopedMount.hpp"
 #include "TempTree.hpp"
 
 #include <gtest/gtest.h>
 
 #include <mutex>
-#include <sys/mount.h>
-#include <unistd.h>
 
 using namespace CleanerCore;
 using DiskTreeChecks::malformation;
@@ -34,10 +34,8 @@ scanners() {
 }
 
 std::vector<std::string> namesOf(const DiskNode& node) {
-    std::vector<std::string> names;
-    for (const DiskNode::Pointer& child : node.children())
-        names.emplace_back(child->name());
-    return names;
+    return TestSupport::mapped(node.children(),
+                               [](const DiskNode::Pointer& child) { return std::string(child->name()); });
 }
 
 struct Calls {
@@ -194,34 +192,16 @@ TEST(DiskTreeScanner, AStoppedScanReturnsAWellFormedPartialTree) {
     EXPECT_EQ(malformation(*whole), "");
 }
 
-namespace {
-
-struct Mount {
-    fs::path point;
-    bool mounted;
-    Mount(const char* source, const fs::path& target, const char* type, unsigned long flags)
-        : point(target),
-          mounted(::mount(source, target.c_str(), type, flags, type ? "size=1m" : nullptr) == 0) {}
-    ~Mount() {
-        if (mounted)
-            ::umount2(point.c_str(), MNT_DETACH);
-    }
-};
-
-} // namespace
-
 // Another file system is told by its device; a bind mount of this one by its mount-root mark,
 // which only the fast scanner reads (the plain one compares volumes and keeps it).
 TEST(DiskTreeScanner, MountPointsInsideTheRootAreAbsent) {
-    if (::geteuid() != 0)
-        GTEST_SKIP() << "mounting needs root";
     TempTree tree, elsewhere;
     tree.file("here", 5000);
     elsewhere.file("bound-file", 5000);
-    const Mount tmpfs("tmpfs", tree.folder("mounted"), "tmpfs", 0);
-    const Mount bind(elsewhere.root().c_str(), tree.folder("bound"), nullptr, MS_BIND);
-    if (!tmpfs.mounted || !bind.mounted)
-        GTEST_SKIP() << "no mounting here: " << std::strerror(errno);
+    const auto tmpfs = TestSupport::ScopedMount::tmpfs(tree.folder("mounted"));
+    const auto bind = TestSupport::ScopedMount::bind(elsewhere.root(), tree.folder("bound"));
+    if (!tmpfs || !bind)
+        GTEST_SKIP() << tmpfs.why() << bind.why();
     tree.file("mounted/there", 5000);
     for (const auto& [label, scan] : scanners()) {
         SCOPED_TRACE(label);

@@ -1,74 +1,29 @@
 #include "CleanerCore/Files/FileSize.hpp"
 #include "FaultySystemCalls.hpp"
+#include "RandomTree.hpp"
 #include "TempTree.hpp"
 
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
-#include <fstream>
-#include <random>
 #include <unistd.h>
 
 using namespace CleanerCore;
 using TestSupport::allocatedBytes;
 namespace fs = std::filesystem;
 
-namespace {
-
-// Only the last 100 of `length` bytes are written: the rest is a hole.
-void sparseFile(const fs::path& path, off_t length) {
-    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    EXPECT_EQ(::pwrite(fd, std::string(100, 's').data(), 100, length - 100), 100);
-    ::close(fd);
-}
-
-// Nested folders deeper than the fan-out, files of every size class, sparse files, hard links,
-// links to folders (the root included), pipes, empty folders, names that are not UTF-8; no "._".
-std::vector<fs::path> randomTree(const fs::path& root, unsigned seed) {
-    std::mt19937 random(seed);
-    const auto pick = [&](std::size_t n) { return static_cast<std::size_t>(random() % n); };
-    const std::vector<std::string> stems{"a",     "caf\xc3\xa9",         "bad\xff\xfe", "with space",
-                                         "x.app", std::string(120, 'L'), ".hidden",     "\x80"};
-    std::vector<fs::path> folders{root}, files;
-    for (int step = 0; step < 250; ++step) {
-        const std::string name = stems[pick(stems.size())] + std::to_string(step);
-        const fs::path target = folders[pick(folders.size())] / name;
-        switch (pick(8)) {
-        case 0:
-        case 1: // often below the newest folder, so that the tree grows deep
-            folders.push_back((random() % 2 ? folders.back() : target.parent_path()) / name);
-            fs::create_directory(folders.back());
-            break;
-        case 2:
-            sparseFile(target, off_t{1} << (16 + pick(6)));
-            files.push_back(target);
-            break;
-        case 3:
-            if (!files.empty())
-                fs::create_hard_link(files[pick(files.size())], target);
-            break;
-        case 4:
-            fs::create_symlink(folders[pick(folders.size())], target);
-            break;
-        case 5:
-            ::mkfifo(target.c_str(), 0600);
-            break;
-        default:
-            std::ofstream(target) << std::string(std::vector<std::size_t>{0, 1, 4096, 4097, 300'000}[pick(5)],
-                                                 'f');
-            files.push_back(target);
-        }
-    }
-    return folders;
-}
-
-} // namespace
-
 TEST(FileSize, FastRoutesAgreeWithTheReferenceOnRandomTrees) {
     for (unsigned seed = 1; seed <= 25; ++seed) {
         SCOPED_TRACE(seed);
         TestSupport::TempTree tree;
-        const std::vector<fs::path> folders = randomTree(tree.root(), seed);
+        // Names that are no UTF-8 and long ones, folders named like packages; no "._" names.
+        const std::vector<fs::path> folders =
+            TestSupport::randomTree(tree.root(), seed,
+                                    {.stems = {"a", "caf\xc3\xa9", "bad\xff\xfe", "with space", "x.app",
+                                               std::string(120, 'L'), ".hidden", "\x80"},
+                                     .sizes = {0, 1, 4096, 4097, 300'000},
+                                     .hardLinks = true,
+                                     .sparseFiles = true});
         const std::int64_t expected = FileSize::referenceAllocatedSize(URL::file(tree.root()));
         EXPECT_EQ(FileSize::allocatedSize(URL::file(tree.root())), expected);
         EXPECT_EQ(FileSize::parallelAllocatedSize(URL::file(tree.root())), expected);
@@ -120,7 +75,7 @@ TEST(FileSize, CountsAllocatedBlocksOncePerNameAndNothingForLinks) {
         << "\"._\" names don't count in walks";
     EXPECT_EQ(FileSize::allocatedSize(URL::file(companion)), allocatedBytes(companion.c_str()));
 
-    sparseFile(tree.path("hole"), 64 << 20);
+    TestSupport::sparseFile(tree.path("hole"), 64 << 20);
     EXPECT_LT(FileSize::allocatedSize(URL::file(tree.path("hole"))), 1 << 20);
     EXPECT_EQ(FileSize::allocatedSize(URL::file(tree.path("missing"))), 0);
 }

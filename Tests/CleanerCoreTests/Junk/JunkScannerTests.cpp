@@ -4,6 +4,7 @@
 #include "CleanerCore/Removal/Cleaner.hpp"
 #include "FaultySystemCalls.hpp"
 #include "JunkHome.hpp"
+#include "Mapped.hpp"
 #include "ScopedMount.hpp"
 #include "TempTree.hpp"
 
@@ -19,17 +20,11 @@ namespace fs = std::filesystem;
 namespace {
 
 std::vector<std::string> names(const std::vector<URL>& urls) {
-    std::vector<std::string> result;
-    for (const URL& url : urls)
-        result.push_back(url.lastPathComponent());
-    return result;
+    return TestSupport::mapped(urls, &URL::lastPathComponent);
 }
 
 std::vector<std::string> names(const JunkGroup& group) {
-    std::vector<std::string> result;
-    for (const CleanupItem& item : group.items)
-        result.push_back(item.name());
-    return result;
+    return TestSupport::mapped(group.items, &CleanupItem::name);
 }
 
 struct JunkHomeScan : testing::Test {

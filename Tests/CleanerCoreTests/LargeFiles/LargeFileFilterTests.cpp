@@ -2,6 +2,7 @@
 #include "CleanerCore/LargeFiles/LargeFileFilter.hpp"
 #include "CleanerCore/LargeFiles/LargeFileSort.hpp"
 #include "CleanerCore/LargeFiles/SizeOption.hpp"
+#include "Mapped.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -32,10 +33,7 @@ LargeFile file(std::string path, std::int64_t size, std::optional<Clock::time_po
 }
 
 std::vector<std::string> names(const std::vector<LargeFile>& files) {
-    std::vector<std::string> out;
-    for (const LargeFile& f : files)
-        out.push_back(f.url.path());
-    return out;
+    return TestSupport::mapped(files, [](const LargeFile& file) { return file.url.path(); });
 }
 
 } // namespace
@@ -105,14 +103,4 @@ TEST(LargeFileSort, EachModeThenNamesThenPaths) {
     std::vector<LargeFile> reversed(files.rbegin(), files.rend());
     for (LargeFileSort sort : allLargeFileSorts)
         EXPECT_EQ(sorted(sort, reversed, "en"), sorted(sort, files, "en")) << rawValue(sort);
-}
-
-TEST(LargeFileFilter, TheFilterBarOffersEveryKindAfterAllAndItsChoicesRoundTrip) {
-    const auto kinds = KindOption::options();
-    ASSERT_EQ(kinds.size(), allFileKinds.size() + 1);
-    EXPECT_TRUE(kinds[0].kinds().empty()) << "\"all\" filters nothing out";
-    for (LargeFileAge age : allLargeFileAges)
-        EXPECT_EQ(fromRaw<LargeFileAge>(rawValue(age)), age);
-    for (LargeFileSort sort : allLargeFileSorts)
-        EXPECT_EQ(fromRaw<LargeFileSort>(rawValue(sort)), sort);
 }

@@ -26,17 +26,13 @@ class CleanerTest : public testing::Test {
 protected:
     void SetUp() override { CoreL10n::setCurrentLanguage("en"); }
 
-    RemovalReport remove(RemovalMode mode, const std::vector<fs::path>& paths, std::int64_t size = 10) const {
-        std::vector<std::pair<fs::path, std::int64_t>> sized;
-        for (const fs::path& path : paths)
-            sized.emplace_back(path, size);
-        return remove(mode, sized);
-    }
-    RemovalReport remove(RemovalMode mode,
-                         const std::vector<std::pair<fs::path, std::int64_t>>& sized) const {
+    // Each item claims 10 bytes, or what `sizes` says at its place.
+    RemovalReport remove(RemovalMode mode, const std::vector<fs::path>& paths,
+                         const std::vector<std::int64_t>& sizes = {}) const {
         std::vector<CleanupItem> items;
-        for (const auto& [path, size] : sized)
-            items.push_back({URL::file(path.string()), size, std::nullopt, true});
+        for (std::size_t i = 0; i < paths.size(); ++i)
+            items.push_back(
+                {URL::file(paths[i].string()), i < sizes.size() ? sizes[i] : 10, std::nullopt, true});
         return Cleaner(mode, URL::file(home.string()), std::nullopt).remove(items);
     }
 
@@ -215,11 +211,9 @@ TEST_F(CleanerTest, AnItemInsideAnotherSelectedOneGoesWithItAndCountsOnce) {
         for (bool innerFirst : {false, true}) {
             const fs::path inner = tree.file("home/Downloads/folder/inner.txt", 3);
             const fs::path folder = inner.parent_path();
-            std::vector<std::pair<fs::path, std::int64_t>> items{
-                {folder, 100}, {inner, 10}, {folder / "", 100}};
-            if (innerFirst)
-                std::swap(items[0], items[1]);
-            const RemovalReport report = remove(mode, items);
+            const RemovalReport report = innerFirst
+                                             ? remove(mode, {inner, folder, folder / ""}, {10, 100, 100})
+                                             : remove(mode, {folder, inner, folder / ""}, {100, 10, 100});
             EXPECT_TRUE(report.failures.empty());
             EXPECT_EQ(report.removed.size(), 3u);
             EXPECT_EQ(report.bytes, 100);
@@ -293,7 +287,7 @@ struct FaultCase {
     RemovalMode mode;
     const char* call; // "unlink", "rename", "write", "mkdir"
     int error;
-    const char* reasonKey; // nullptr: still removed
+    const char* reason; // after "core.removal.failure."; nullptr: still removed
 };
 
 class CleanerFaults : public CleanerTest, public testing::WithParamInterface<FaultCase> {};
@@ -324,18 +318,17 @@ TEST_P(CleanerFaults, ClassifiesEachFailure) {
         Platform::ScopedSystemCalls installed(calls);
         report = remove(fault.mode, {item});
     }
-    if (!fault.reasonKey) {
+    if (!fault.reason) {
         EXPECT_TRUE(report.failures.empty());
         EXPECT_EQ(report.removed.size(), 1u);
         return;
     }
     ASSERT_EQ(report.failures.size(), 1u);
     EXPECT_EQ(report.failures[0].url, URL::file(item.string()));
+    const std::string key = "core.removal.failure." + std::string(fault.reason);
     EXPECT_EQ(report.failures[0].reason,
-              std::string_view(fault.reasonKey) == "core.removal.failure.other"
-                  ? CoreL10n::format(fault.reasonKey, "en",
-                                     std::vector<CoreL10n::Argument>{std::string(std::strerror(fault.error))})
-                  : text(fault.reasonKey));
+              key.ends_with(".other") ? CoreL10n::format(key, "en", {std::string(std::strerror(fault.error))})
+                                      : text(key));
     EXPECT_TRUE(present(item)) << "nothing is lost";
     EXPECT_EQ(report.bytes, 0);
     if (present(trashInfo())) {
@@ -345,21 +338,17 @@ TEST_P(CleanerFaults, ClassifiesEachFailure) {
 
 INSTANTIATE_TEST_SUITE_P(
     EveryKind, CleanerFaults,
-    testing::Values(
-        FaultCase{"PermanentNoAccess", RemovalMode::permanent, "unlink", EACCES,
-                  "core.removal.failure.noPermission"},
-        FaultCase{"PermanentBusy", RemovalMode::permanent, "unlink", EBUSY, "core.removal.failure.busy"},
-        FaultCase{"PermanentOther", RemovalMode::permanent, "unlink", EIO, "core.removal.failure.other"},
-        FaultCase{"PermanentInterrupted", RemovalMode::permanent, "unlink", EINTR, nullptr},
-        // "No such file" while the item is still there is no success: only a real absence is.
-        FaultCase{"PermanentWronglyAbsent", RemovalMode::permanent, "unlink", ENOENT,
-                  "core.removal.failure.other"},
-        FaultCase{"TrashWronglyAbsent", RemovalMode::trash, "rename", ENOENT, "core.removal.failure.other"},
-        FaultCase{"TrashReadOnly", RemovalMode::trash, "rename", EROFS, "core.removal.failure.readOnly"},
-        FaultCase{"TrashNoSpaceForInfo", RemovalMode::trash, "write", ENOSPC, "core.removal.failure.noSpace"},
-        FaultCase{"TrashOnAnotherVolume", RemovalMode::trash, "rename", EXDEV,
-                  "core.removal.failure.noTrash"},
-        FaultCase{"TrashInterruptedWrite", RemovalMode::trash, "write", EINTR, nullptr}),
+    testing::Values(FaultCase{"PermanentNoAccess", RemovalMode::permanent, "unlink", EACCES, "noPermission"},
+                    FaultCase{"PermanentBusy", RemovalMode::permanent, "unlink", EBUSY, "busy"},
+                    FaultCase{"PermanentOther", RemovalMode::permanent, "unlink", EIO, "other"},
+                    FaultCase{"PermanentInterrupted", RemovalMode::permanent, "unlink", EINTR, nullptr},
+                    // "No such file" while the item is still there is no success: only a real absence is.
+                    FaultCase{"PermanentWronglyAbsent", RemovalMode::permanent, "unlink", ENOENT, "other"},
+                    FaultCase{"TrashWronglyAbsent", RemovalMode::trash, "rename", ENOENT, "other"},
+                    FaultCase{"TrashReadOnly", RemovalMode::trash, "rename", EROFS, "readOnly"},
+                    FaultCase{"TrashNoSpaceForInfo", RemovalMode::trash, "write", ENOSPC, "noSpace"},
+                    FaultCase{"TrashOnAnotherVolume", RemovalMode::trash, "rename", EXDEV, "noTrash"},
+                    FaultCase{"TrashInterruptedWrite", RemovalMode::trash, "write", EINTR, nullptr}),
     [](const testing::TestParamInfo<FaultCase>& row) { return std::string(row.param.name); });
 
 // The same tree goes to the trash, then out of it for good, as emptying the trash would.

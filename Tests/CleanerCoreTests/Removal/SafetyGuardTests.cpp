@@ -132,20 +132,20 @@ TEST(SafetyGuard, ResolvesTheParentButNeverTheLastComponent) {
     tree.symlink("home/etc-link", "/etc");
     tree.symlink("home/to-downloads", home / "Downloads");
     tree.folder("home/Downloads/keep");
+    const auto inHome = [&](const char* relative, const fs::path& homeAt) {
+        return SafetyGuard::isProtected(URL::file((home / relative).string()), URL::file(homeAt),
+                                        std::nullopt);
+    };
 
     // Removing a link removes the link: where it points does not matter.
     const URL target =
         SafetyGuard::check(URL::file((home / "x").string()), URL::file(home.string()), std::nullopt);
     EXPECT_EQ(target.path(), (fs::canonical(home) / "x").string());
     // Through a link in the parent, the real place decides.
-    EXPECT_TRUE(SafetyGuard::isProtected(URL::file((home / "etc-link/passwd").string()),
-                                         URL::file(home.string()), std::nullopt));
-    EXPECT_TRUE(SafetyGuard::isProtected(URL::file((home / "to-downloads/keep").string()),
-                                         URL::file(home.string()), std::nullopt) == false);
+    EXPECT_TRUE(inHome("etc-link/passwd", home));
+    EXPECT_FALSE(inHome("to-downloads/keep", home));
     // The home reached through a link is the same home.
-    tree.symlink("home-link", home);
-    EXPECT_TRUE(SafetyGuard::isProtected(URL::file((home / "Documents").string()),
-                                         URL::file(tree.path("home-link").string()), std::nullopt));
+    EXPECT_TRUE(inHome("Documents", tree.symlink("home-link", home)));
 
     // A parent the caller has resolved itself is taken as given, and decides like a resolved one.
     const URL inLink = URL::file((home / "etc-link/passwd").string());

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <fstream>
 #include <map>
+#include <sstream>
 #include <vector>
 
 using CleanerCore::SystemSampler;
@@ -59,9 +60,12 @@ struct RecordedMachine {
         if (physical && !std::filesystem::is_symlink(tree.path(folder + "/device")))
             tree.symlink("sys/class/net/" + name + "/device", "../../../devices/pci0000:00/0000:00:1f.6");
     }
-    void supply(const std::string& name, const std::map<std::string, std::string>& attributes) {
-        for (const auto& [attribute, value] : attributes)
-            tree.text("sys/class/power_supply/" + name + "/" + attribute, value + "\n");
+    // `attributes`: "type=Battery status=Full", one file each.
+    void supply(const std::string& name, const std::string& attributes) {
+        std::istringstream pairs(attributes);
+        for (std::string pair; pairs >> pair;)
+            tree.text("sys/class/power_supply/" + name + "/" + pair.substr(0, pair.find('=')),
+                      pair.substr(pair.find('=') + 1) + "\n");
     }
 
     SystemSampler::Sources sources() const {
@@ -159,56 +163,42 @@ TEST(SystemSampler, SummaryHasNoRatesAndUnreadableSourcesFallBackAlone) {
 }
 
 TEST(SystemSampler, BatteryFromThePowerSupplyClass) {
-    const auto battery = [](const std::map<std::string, std::map<std::string, std::string>>& supplies) {
+    const auto battery = [](const std::map<std::string, std::string>& supplies) {
         RecordedMachine machine;
         for (const auto& [name, attributes] : supplies)
             machine.supply(name, attributes);
         return SystemSampler::summary(machine.sources()).battery;
     };
-    const std::map<std::string, std::string> mains{{"type", "Mains"}, {"online", "1"}};
-    const std::map<std::string, std::string> unplugged{{"type", "Mains"}, {"online", "0"}};
+    const std::string mains = "type=Mains online=1";
 
-    const auto discharging = battery({{"AC", unplugged},
-                                      {"BAT0",
-                                       {{"type", "Battery"},
-                                        {"status", "Discharging"},
-                                        {"energy_now", "30000000"},
-                                        {"energy_full", "40000000"},
-                                        {"power_now", "10000000"},
-                                        {"capacity", "74"},
-                                        {"cycle_count", "312"}}}});
+    const auto discharging =
+        battery({{"AC", "type=Mains online=0"},
+                 {"BAT0", "type=Battery status=Discharging energy_now=30000000 energy_full=40000000 "
+                          "power_now=10000000 capacity=74 cycle_count=312"}});
     ASSERT_TRUE(discharging);
     EXPECT_EQ(*discharging, (SystemSnapshot::Battery{0.75, false, false, 180, 312}));
 
     const auto charging = battery({{"ADP1", mains},
-                                   {"BAT1",
-                                    {{"type", "Battery"},
-                                     {"status", "Charging"},
-                                     {"charge_now", "2000000"},
-                                     {"charge_full", "4000000"},
-                                     {"current_now", "-1000000"}}}});
+                                   {"BAT1", "type=Battery status=Charging charge_now=2000000 "
+                                            "charge_full=4000000 current_now=-1000000"}});
     ASSERT_TRUE(charging);
     EXPECT_EQ(*charging, (SystemSnapshot::Battery{0.5, true, true, 120, std::nullopt}));
 
     const auto topped = battery({{"ADP1", mains},
-                                 {"BAT0",
-                                  {{"type", "Battery"},
-                                   {"status", "Charging"},
-                                   {"energy_now", "40000000"},
-                                   {"energy_full", "40000000"},
-                                   {"power_now", "1000000"}}}});
+                                 {"BAT0", "type=Battery status=Charging energy_now=40000000 "
+                                          "energy_full=40000000 power_now=1000000"}});
     ASSERT_TRUE(topped);
     EXPECT_EQ(topped->minutesRemaining, std::nullopt) << "0 minutes to full charge reads as unknown";
 
-    const auto percentOnly = battery({{"BAT0", {{"type", "Battery"}, {"status", "Full"}, {"capacity", "100"}}}});
+    const auto percentOnly = battery({{"BAT0", "type=Battery status=Full capacity=100"}});
     ASSERT_TRUE(percentOnly);
     EXPECT_EQ(*percentOnly, (SystemSnapshot::Battery{1, false, true, std::nullopt, std::nullopt}));
 
-    EXPECT_FALSE(battery({{"BAT0", {{"type", "Battery"}, {"energy_now", "0"}, {"energy_full", "0"}}}}))
+    EXPECT_FALSE(battery({{"BAT0", "type=Battery energy_now=0 energy_full=0"}}))
         << "a battery of no capacity is none";
     EXPECT_FALSE(battery({{"AC", mains}}));
-    EXPECT_FALSE(battery({{"hidpp_battery_0", {{"type", "Battery"}, {"scope", "Device"}, {"capacity", "55"}}},
-                          {"BAT0", {{"type", "Battery"}, {"present", "0"}}}}))
+    EXPECT_FALSE(battery(
+        {{"hidpp_battery_0", "type=Battery scope=Device capacity=55"}, {"BAT0", "type=Battery present=0"}}))
         << "a mouse's battery is not the machine's, nor an empty bay";
 }
 

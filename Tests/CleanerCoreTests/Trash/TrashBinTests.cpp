@@ -7,6 +7,8 @@
 #include "CleanerCore/Trash/TrashInfo.hpp"
 
 #include "FaultySystemCalls.hpp"
+#include "Mapped.hpp"
+#include "ScopedMount.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
@@ -16,7 +18,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sys/mount.h>
 #include <unistd.h>
 
 using namespace CleanerCore;
@@ -46,11 +47,7 @@ struct Fixture {
             << "[Trash Info]\nPath=/somewhere/" << name << "\nDeletionDate=" << kDate << "\n";
     }
     std::vector<std::string> names(const std::string& folder) const {
-        std::vector<std::string> out;
-        for (const auto& entry : fs::directory_iterator(trash / folder))
-            out.push_back(entry.path().filename().string());
-        std::sort(out.begin(), out.end());
-        return out;
+        return TestSupport::namesIn(trash / folder);
     }
 };
 
@@ -68,10 +65,9 @@ TEST(TrashBin, ListsItemsLargestFirstWithDatesFoldersWalkedAndLinksAtZero) {
 
     const auto entries = f.bin.entries();
     ASSERT_TRUE(entries);
-    std::vector<std::string> order;
-    for (const TrashEntry& entry : *entries)
-        order.push_back(entry.url.lastPathComponent());
-    EXPECT_THAT(order, ElementsAre("no info", "folder", "small.txt", "link"));
+    EXPECT_THAT(
+        TestSupport::mapped(*entries, [](const TrashEntry& entry) { return entry.url.lastPathComponent(); }),
+        ElementsAre("no info", "folder", "small.txt", "link"));
     EXPECT_EQ((*entries)[1].size, allocatedBytes(inside));
     EXPECT_EQ((*entries)[3].size, 0);
     EXPECT_FALSE((*entries)[0].dateAdded);
@@ -161,12 +157,9 @@ TEST(TrashBin, FindsEachVolumesOwnTrashOnceAndNamesItsVolume) {
 TEST(TrashBin, EmptiesTheTrashOfAMountedVolume) {
     TestSupport::TempTree tree;
     const fs::path volume = tree.folder("volume");
-    if (::geteuid() != 0 || ::mount("zephrane-test", volume.c_str(), "tmpfs", 0, "size=8m") != 0)
-        GTEST_SKIP() << "needs root to mount a tmpfs";
-    struct Unmount {
-        fs::path at;
-        ~Unmount() { ::umount2(at.c_str(), MNT_DETACH); }
-    } unmount{volume};
+    const auto mounted = TestSupport::ScopedMount::tmpfs(volume);
+    if (!mounted)
+        GTEST_SKIP() << mounted.why();
     const std::string id = std::to_string(::getuid());
     tree.file("volume/.Trash-" + id + "/files/report.pdf", 3000);
     tree.file("volume/.Trash-" + id + "/info/report.pdf.trashinfo", 10);

@@ -1,3 +1,4 @@
+#include "CannedFetcher.hpp"
 #include "CleanerCore/Updates/AppUpdateInstaller.hpp"
 #include "CleanerCore/Updates/SpawnCommandRunner.hpp"
 #include "TempTree.hpp"
@@ -67,22 +68,11 @@ public:
     }
 };
 
-class FakeFetcher final : public UpdateFetching {
-public:
-    fs::path archive;
-    std::string data(const URL&) const override { throw TransferError("not used"); }
-    URL download(const URL&, const URL& folder) const override {
-        const fs::path target = fs::path(folder.path()) / archive.filename();
-        fs::copy_file(archive, target);
-        return URL::file(target.string());
-    }
-};
-
 // An installed Foo 1.0, a download that holds Foo 2.0, and an installer whose tools all pass.
 struct Fixture {
     TestSupport::TempTree tree;
     FakeRunner runner;
-    FakeFetcher fetcher;
+    TestSupport::CannedFetcher fetcher;
     AppUpdateInstaller installer{fetcher, runner};
     AppUpdate update;
     std::vector<URL> trashed;
@@ -125,10 +115,7 @@ struct Fixture {
     }
 
     void expectNothingLeftOver() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(tree.path("Applications")))
-            names.push_back(entry.path().filename().string());
-        EXPECT_THAT(names, ElementsAre("Foo.app"));
+        EXPECT_THAT(TestSupport::namesIn(tree.path("Applications")), ElementsAre("Foo.app"));
         EXPECT_TRUE(!fs::exists(tree.path("work")) || fs::is_empty(tree.path("work")));
     }
 };
@@ -204,27 +191,16 @@ TEST(AppUpdateInstaller, SwapsInTheNewVersionAndTrashesTheOldOne) {
     fixture.expectNothingLeftOver();
 }
 
-TEST(AppUpdateInstaller, UnpacksDiskImagesOnlyWithTheirTool) {
+TEST(AppUpdateInstaller, UnpacksDiskImagesWithTheirTool) {
     Fixture fixture;
     fixture.fetcher.archive = fixture.tree.text("Foo.dmg", "not a zip");
     fixture.update.downloadURL = URL::parse("https://example.org/Foo.dmg");
-    fixture.installer.tools.imageUnpack = std::nullopt;
-    EXPECT_EQ(fixture.install(), Kind::unsupportedArchive);
-    fixture.expectUntouched();
-
     fixture.installer.tools.imageUnpack = "/usr/bin/7z";
     fs::create_directories(fixture.tree.path("payload/Volume Foo"));
     fs::rename(fixture.tree.path("payload/Foo.app"), fixture.tree.path("payload/Volume Foo/Foo.app"));
     EXPECT_EQ(fixture.install(), std::nullopt);
     EXPECT_EQ(versionAt(fixture.installed()), "2.0");
     EXPECT_THAT(fixture.runner.calls, testing::Contains("cp"));
-}
-
-TEST(AppUpdateInstaller, WithoutSignatureToolsAFeedUpdateFailsClosed) {
-    Fixture fixture;
-    fixture.installer.tools = AppUpdateInstaller::Tools::installed();
-    EXPECT_EQ(fixture.install(), Kind::signatureInvalid);
-    fixture.expectUntouched();
 }
 
 // Each way an install can fail leaves the installed app and its folder as they were.
@@ -234,6 +210,17 @@ TEST(AppUpdateInstaller, EveryFailureLeavesTheInstalledAppUntouched) {
         std::function<void(Fixture&)> arrange;
         Kind expected;
         std::vector<std::string> calls; // empty: not checked
+    };
+    const auto answer = [](const char* tool, CommandResult result) {
+        return [tool, result](Fixture& f) { f.runner.answers[tool] = result; };
+    };
+    const auto download = [](const char* name) {
+        return [name](Fixture& f) { f.fetcher.archive = f.tree.text(name, "not a zip"); };
+    };
+    const auto packed = [](const char* version, const char* identifier = "org.example.foo") {
+        return [=](Fixture& f) {
+            f.tree.text("payload/Foo.app/Contents/Info.plist", infoPlist(identifier, version));
+        };
     };
     const auto failOnRename = [](int which) {
         return [which](Fixture& f) {
@@ -250,50 +237,25 @@ TEST(AppUpdateInstaller, EveryFailureLeavesTheInstalledAppUntouched) {
          [](Fixture& f) { f.update.downloadURL = URL::parse("http://example.org/Foo.zip"); },
          Kind::noDownload,
          {}},
-        {"not an archive",
-         [](Fixture& f) { f.fetcher.archive = f.tree.text("Foo.tar", "x"); },
-         Kind::unsupportedArchive,
-         {}},
-        {"unpack fails",
-         [](Fixture& f) {
-             f.runner.answers["bsdtar"] = {1, "", "damaged"};
-         },
-         Kind::commandFailed,
-         {}},
+        {"not an archive", download("Foo.tar"), Kind::unsupportedArchive, {}},
+        {"disk image without its tool", download("Foo.dmg"), Kind::unsupportedArchive, {}},
+        {"unpack fails", answer("bsdtar", {1, "", "damaged"}), Kind::commandFailed, {}},
         {"empty archive",
          [](Fixture& f) { fs::remove_all(f.tree.path("payload/Foo.app")); },
          Kind::noAppInArchive,
          {}},
-        {"another app by that name",
-         [](Fixture& f) {
-             f.tree.text("payload/Foo.app/Contents/Info.plist", infoPlist("org.example.bad", "2.0"));
-         },
-         Kind::bundleIDMismatch,
-         {"bsdtar"}},
-        {"same version as the feed claims newer",
-         [](Fixture& f) {
-             f.tree.text("payload/Foo.app/Contents/Info.plist", infoPlist("org.example.foo", "1.0"));
-         },
-         Kind::notNewer,
-         {"bsdtar"}},
-        {"bad signature",
-         [](Fixture& f) {
-             f.runner.answers["codesign"] = {1, "", ""};
-         },
+        {"another app by that name", packed("2.0", "org.example.bad"), Kind::bundleIDMismatch, {"bsdtar"}},
+        {"same version as the feed claims newer", packed("1.0"), Kind::notNewer, {"bsdtar"}},
+        {"bad signature", answer("codesign", {1, "", ""}), Kind::signatureInvalid, {"bsdtar", "codesign"}},
+        {"no signature tools on this system",
+         [](Fixture& f) { f.installer.tools = AppUpdateInstaller::Tools::installed(); },
          Kind::signatureInvalid,
-         {"bsdtar", "codesign"}},
+         {}},
         {"not notarized",
-         [](Fixture& f) {
-             f.runner.answers["spctl"] = {3, "", "rejected"};
-         },
+         answer("spctl", {3, "", "rejected"}),
          Kind::notNotarized,
          {"bsdtar", "codesign", "spctl"}},
-        {"no team",
-         [](Fixture& f) {
-             f.runner.answers["codesign-team"] = {0, "", "TeamIdentifier=not set"};
-         },
-         Kind::teamMismatch,
-         {}},
+        {"no team", answer("codesign-team", {0, "", "TeamIdentifier=not set"}), Kind::teamMismatch, {}},
         {"running", [](Fixture&) {}, Kind::appRunning, {}},
         {"copy fails",
          [](Fixture& f) {

@@ -12,12 +12,6 @@ using testing::IsEmpty;
 
 namespace {
 
-struct Row {
-    const char* a;
-    const char* b;
-    std::strong_ordering expected;
-};
-
 const char* name(std::strong_ordering order) {
     return order < 0 ? "older" : order > 0 ? "newer" : "same";
 }
@@ -48,40 +42,29 @@ TEST(AppVersion, ComparesEveryDocumentedPair) {
     using std::strong_ordering;
     const std::string forty(40, '9');
     const std::string fortyOther = std::string(39, '9') + "8";
-    const Row rows[] = {
-        {"", "", strong_ordering::equal},
-        {"..", "-", strong_ordering::equal},
-        {"", "0", strong_ordering::equal},
-        {"", "0.0", strong_ordering::equal},
-        {"1.10", "1.9", strong_ordering::greater},
-        {"1.02", "1.2", strong_ordering::equal},
-        {forty.c_str(), fortyOther.c_str(), strong_ordering::greater},
-        {"1.0RC1", "1.0rc1", strong_ordering::equal},
-        {"1.0-beta", "1.0", strong_ordering::less},
-        {"1.0", "1.0-beta", strong_ordering::greater},
-        {"1.0.beta", "1.0", strong_ordering::less},
-        {"1.0b1", "1.0", strong_ordering::less},
-        {"1.0b1", "1.0.1", strong_ordering::less},
-        {"1.0.1", "1.0b9", strong_ordering::greater},
-        {"1.0.0beta", "1.0", strong_ordering::greater},
-        {"1.0", "1.0.0", strong_ordering::equal},
-        {"1.0.0.0.1", "1.0", strong_ordering::greater},
-        {"1.0", "1.0.0.0.1", strong_ordering::less},
-        {"v1.2", "1.2", strong_ordering::equal},
-        {"1.0alpha", "1.0beta", strong_ordering::less},
-        {"10", "9", strong_ordering::greater},
+    const std::vector<std::pair<std::string, std::string>> same{
+        {"", ""},        {"..", "-"},          {"", "0"},        {"", "0.0"},
+        {"1.02", "1.2"}, {"1.0RC1", "1.0rc1"}, {"1.0", "1.0.0"}, {"v1.2", "1.2"}};
+    // The first of each pair is the newer.
+    const std::vector<std::pair<std::string, std::string>> newer{
+        {"1.10", "1.9"},      {forty, fortyOther},     {"1.0", "1.0-beta"}, {"1.0", "1.0.beta"},
+        {"1.0", "1.0b1"},     {"1.0.1", "1.0b1"},      {"1.0.1", "1.0b9"},  {"1.0.0beta", "1.0"},
+        {"1.0.0.0.1", "1.0"}, {"1.0beta", "1.0alpha"}, {"10", "9"}};
+    // Swapping the sides swaps the answer.
+    const auto check = [](const std::string& a, const std::string& b, std::strong_ordering expected) {
+        const std::string pair = '"' + a + "\" against \"" + b + '"';
+        EXPECT_EQ(name(AppVersion::compare(a, b)), std::string(name(expected))) << pair;
+        EXPECT_EQ(name(AppVersion::compare(b, a)), std::string(name(0 <=> expected))) << pair << ", swapped";
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(name(AppVersion::compare(row.a, row.b)), std::string(name(row.expected)))
-            << '"' << row.a << "\" against \"" << row.b << '"';
-        // Swapping the sides swaps the answer.
-        EXPECT_EQ(name(AppVersion::compare(row.b, row.a)), std::string(name(0 <=> row.expected)))
-            << '"' << row.b << "\" against \"" << row.a << '"';
-    }
+    for (const auto& [a, b] : same)
+        check(a, b, strong_ordering::equal);
+    for (const auto& [a, b] : newer)
+        check(a, b, strong_ordering::greater);
     EXPECT_TRUE(AppVersion::isNewer("2", "1"));
     EXPECT_FALSE(AppVersion::isNewer("1", "1.0"));
     // Ten thousand characters of anything compare without trouble.
-    EXPECT_EQ(AppVersion::compare(std::string(10'000, '7'), std::string(9'999, '7')), strong_ordering::greater);
+    EXPECT_EQ(AppVersion::compare(std::string(10'000, '7'), std::string(9'999, '7')),
+              strong_ordering::greater);
 }
 
 TEST(AppVersion, DecidesUpdatesFromShortVersionsAndBuilds) {

@@ -1,7 +1,7 @@
 #include "CleanerCore/Apps/AppInventory.hpp"
 #include "CleanerCore/Platform/FlatpakUpdates.hpp"
 #include "CleanerCore/Updates/AppUpdateFinder.hpp"
-#include "CleanerCore/Updates/UpdateFetching.hpp"
+#include "CannedFetcher.hpp"
 #include "FlatpakFixture.hpp"
 #include "TempTree.hpp"
 
@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 using namespace CleanerCore;
-using TestSupport::FlatpakFixture;
 
 namespace {
 
@@ -20,18 +19,10 @@ const Platform::FlatpakUpdate* findUpdate(const std::vector<Platform::FlatpakUpd
     return nullptr;
 }
 
-class NoNetwork final : public UpdateFetching {
-public:
-    std::string data(const URL&) const override { throw TransferError("offline"); }
-    URL download(const URL&, const URL&) const override { throw TransferError("offline"); }
-};
-
 } // namespace
 
 TEST(FlatpakUpdates, OffersTheRemotesNewerCommitWithItsAppStreamVersion) {
-    FlatpakFixture* fixture = FlatpakFixture::shared();
-    if (fixture == nullptr)
-        GTEST_SKIP() << FlatpakFixture::unavailable();
+    REQUIRE_FLATPAK(fixture);
     const std::string id = "org.zephrane.Test.Updatable";
     const std::string current = "org.zephrane.Test.Current";
     fixture->exportApp({id, "Updatable", "1.0"});
@@ -53,10 +44,8 @@ TEST(FlatpakUpdates, OffersTheRemotesNewerCommitWithItsAppStreamVersion) {
 
     // The finder asks the Flatpak source alone for Flatpak apps, and never the network for them.
     TestSupport::TempTree home;
-    AppInventory::Sources sources;
-    sources.home = URL::file(home.root().string());
-    sources.flatpaks = true;
-    NoNetwork network;
+    const AppInventory::Sources sources{.home = URL::file(home.root().string()), .flatpaks = true};
+    const TestSupport::CannedFetcher network{}; // nothing answers
     AppUpdateFinder::Settings settings;
     settings.cacheFolder = home.path("cache").string();
     settings.caskroomFolders = {};
@@ -73,9 +62,7 @@ TEST(FlatpakUpdates, OffersTheRemotesNewerCommitWithItsAppStreamVersion) {
 }
 
 TEST(FlatpakUpdates, AnUpdateTransactionDeploysTheOfferedVersion) {
-    FlatpakFixture* fixture = FlatpakFixture::shared();
-    if (fixture == nullptr)
-        GTEST_SKIP() << FlatpakFixture::unavailable();
+    REQUIRE_FLATPAK(fixture);
     const std::string id = "org.zephrane.Test.Installable";
     fixture->exportApp({id, "Installable", "1.0"});
     fixture->install(id);

@@ -1,5 +1,6 @@
 #include "CleanerCore/Updates/HomebrewCask.hpp"
 #include "CleanerCore/Updates/UpdateFetching.hpp"
+#include "CannedFetcher.hpp"
 #include "TempTree.hpp"
 
 #include <gmock/gmock.h>
@@ -25,21 +26,6 @@ constexpr std::string_view api = R"([
   {"token": 7, "version": "1", "artifacts": [{"app": ["Seven.app"]}]},
   {"token": "no-url", "version": "3", "url": 5, "artifacts": [{"app": ["N.app"]}]}
 ])";
-
-// Counts requests and answers with canned bytes, or fails like an offline machine.
-class FakeFetcher final : public UpdateFetching {
-public:
-    std::optional<std::string> answer;
-    mutable int requests = 0;
-
-    std::string data(const URL&) const override {
-        ++requests;
-        if (!answer)
-            throw TransferError("offline");
-        return *answer;
-    }
-    URL download(const URL&, const URL&) const override { throw TransferError("not used"); }
-};
 
 void setAge(const std::filesystem::path& file, std::chrono::hours age) {
     std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now() - age);
@@ -76,31 +62,31 @@ TEST(HomebrewCask, CacheIsUsedWhileFreshRefetchedWhenStaleAndKeptWhenOffline) {
     TestSupport::TempTree tree;
     const std::string folder = tree.path("cache/Updates").string();
     const auto cacheFile = tree.path("cache/Updates/homebrew-casks.json");
-    FakeFetcher fetcher;
-    fetcher.answer = std::string(api);
+    TestSupport::CannedFetcher fetcher;
+    fetcher.anyOther = std::string(api);
     const HomebrewCaskIndex index(fetcher, folder, std::chrono::hours(24));
 
     ASSERT_EQ(index.casks()->size(), 3u);
-    EXPECT_EQ(fetcher.requests, 1);
+    EXPECT_EQ(fetcher.asked.size(), 1u);
     EXPECT_TRUE(std::filesystem::exists(cacheFile)) << "the folder is made as needed";
     EXPECT_EQ(index.casks()->size(), 3u);
-    EXPECT_EQ(fetcher.requests, 1) << "a fresh cache is enough";
+    EXPECT_EQ(fetcher.asked.size(), 1u) << "a fresh cache is enough";
 
     setAge(cacheFile, std::chrono::hours(25));
-    fetcher.answer.reset();
+    fetcher.anyOther.reset();
     ASSERT_TRUE(index.casks().has_value()) << "a stale cache beats no index at all";
     EXPECT_EQ(index.casks()->size(), 3u);
-    EXPECT_EQ(fetcher.requests, 3);
+    EXPECT_EQ(fetcher.asked.size(), 3u);
 
-    fetcher.answer = "[]"; // an empty index never replaces a good cache
+    fetcher.anyOther = "[]"; // an empty index never replaces a good cache
     EXPECT_EQ(index.casks()->size(), 3u);
 
     std::ofstream(cacheFile) << "{corrupt";
-    fetcher.answer = std::string(api);
+    fetcher.anyOther = std::string(api);
     EXPECT_EQ(index.casks()->size(), 3u) << "a fresh but corrupt cache leads to a fetch";
 
     std::filesystem::remove(cacheFile);
-    fetcher.answer.reset();
+    fetcher.anyOther.reset();
     EXPECT_EQ(index.casks(), std::nullopt);
 }
 

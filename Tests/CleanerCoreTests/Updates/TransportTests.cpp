@@ -9,41 +9,33 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <system_error>
 
 using namespace CleanerCore;
-using TestSupport::LocalHttpServer;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using TestSupport::LocalHttpServer;
 
 namespace {
 
 LocalHttpServer::Response answerFor(const std::string& path) {
-    if (path == "/feed.xml")
-        return {200, {{"Content-Type", "application/xml"}}, "<rss/>"};
-    if (path == "/empty")
-        return {204, {}, ""};
-    if (path == "/unchanged")
-        return {304, {}, ""};
-    if (path == "/exactly-ten")
-        return {200, {}, "0123456789"};
-    if (path == "/eleven")
-        return {200, {}, "0123456789A"};
-    if (path == "/huge")
-        return {200, {}, std::string(8 << 20, 'x')};
-    if (path == "/slow")
-        return {200, {}, "late", std::chrono::seconds(20)};
-    if (path == "/to-file")
-        return {302, {{"Location", "file:///etc/hostname"}}, ""};
-    if (path == "/to-feed")
-        return {301, {{"Location", "/feed.xml"}}, ""};
-    if (path == "/download/App.zip")
-        return {200, {}, "zip bytes"};
-    if (path == "/named")
-        return {200, {{"Content-Disposition", "attachment; filename=\"../Suggested 1.2.dmg\""}}, "dmg bytes"};
-    if (path == "/download/")
-        return {200, {}, "no name"};
-    return {404, {}, "not here"};
+    static const std::map<std::string, LocalHttpServer::Response> answers{
+        {"/feed.xml", {200, {{"Content-Type", "application/xml"}}, "<rss/>"}},
+        {"/empty", {204, {}, ""}},
+        {"/unchanged", {304, {}, ""}},
+        {"/exactly-ten", {200, {}, "0123456789"}},
+        {"/eleven", {200, {}, "0123456789A"}},
+        {"/huge", {200, {}, std::string(8 << 20, 'x')}},
+        {"/slow", {200, {}, "late", std::chrono::seconds(20)}},
+        {"/to-file", {302, {{"Location", "file:///etc/hostname"}}, ""}},
+        {"/to-feed", {301, {{"Location", "/feed.xml"}}, ""}},
+        {"/download/App.zip", {200, {}, "zip bytes"}},
+        {"/named",
+         {200, {{"Content-Disposition", "attachment; filename=\"../Suggested 1.2.dmg\""}}, "dmg bytes"}},
+        {"/download/", {200, {}, "no name"}}};
+    const auto found = answers.find(path);
+    return found == answers.end() ? LocalHttpServer::Response{404, {}, "not here"} : found->second;
 }
 
 template <typename Call> std::optional<UpdateFetchError> fetchError(Call call) {
@@ -53,14 +45,6 @@ template <typename Call> std::optional<UpdateFetchError> fetchError(Call call) {
         return error;
     }
     return std::nullopt;
-}
-
-std::vector<std::string> filesIn(const std::filesystem::path& folder) {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
 }
 
 } // namespace
@@ -108,7 +92,8 @@ TEST(CurlUpdateFetcher, DownloadsUnderTheBestNameAndCleansUpOnFailure) {
     // No size limit applies to downloads.
     const URL zip = fetcher.download(URL::parse(server.url("/download/App.zip")), folder);
     EXPECT_EQ(zip.path(), tree.path("downloads/App.zip").string());
-    EXPECT_EQ(fetcher.download(URL::parse(server.url("/named")), folder).lastPathComponent(), "Suggested 1.2.dmg")
+    EXPECT_EQ(fetcher.download(URL::parse(server.url("/named")), folder).lastPathComponent(),
+              "Suggested 1.2.dmg")
         << "a suggested name is taken, but never with a folder in front";
     EXPECT_EQ(fetcher.download(URL::parse(server.url("/download/")), folder).lastPathComponent(), "update");
     std::ifstream in(zip.path());
@@ -118,7 +103,8 @@ TEST(CurlUpdateFetcher, DownloadsUnderTheBestNameAndCleansUpOnFailure) {
     ASSERT_TRUE(error.has_value());
     EXPECT_EQ(error->status(), 404);
     EXPECT_THROW(fetcher.download(URL::parse(server.url("/to-file")), folder), TransferError);
-    EXPECT_THAT(filesIn(tree.path("downloads")), testing::ElementsAre("App.zip", "Suggested 1.2.dmg", "update"))
+    EXPECT_THAT(TestSupport::namesIn(tree.path("downloads")),
+                testing::ElementsAre("App.zip", "Suggested 1.2.dmg", "update"))
         << "no partial file is left behind";
 }
 
@@ -128,8 +114,9 @@ TEST(SpawnCommandRunner, CollectsOutputPastAPipesCapacityAndTheExitStatus) {
     const SpawnCommandRunner runner;
 
     // Far more than a pipe holds (64 KiB), on both streams, with nobody reading while it runs.
-    const auto chatty = runner.run("/bin/sh", {"-c", "head -c 300000 /dev/zero; head -c 100000 /dev/zero >&2; exit 3"},
-                                   std::chrono::seconds(30));
+    const auto chatty =
+        runner.run("/bin/sh", {"-c", "head -c 300000 /dev/zero; head -c 100000 /dev/zero >&2; exit 3"},
+                   std::chrono::seconds(30));
     EXPECT_EQ(chatty.status, 3);
     EXPECT_EQ(chatty.standardOutput.size(), 300000u);
     EXPECT_EQ(chatty.standardError.size(), 100000u);
@@ -140,8 +127,10 @@ TEST(SpawnCommandRunner, CollectsOutputPastAPipesCapacityAndTheExitStatus) {
     const auto stdinIsEmpty = runner.run("/bin/cat", {}, std::chrono::seconds(30));
     EXPECT_EQ(stdinIsEmpty.status, 0);
 
-    EXPECT_THROW(runner.run(tree.path("no-such-program").string(), {}, std::chrono::seconds(1)), std::system_error);
-    EXPECT_THAT(filesIn(tree.path("tmp")), IsEmpty()) << "the output files go, also when the launch failed";
+    EXPECT_THROW(runner.run(tree.path("no-such-program").string(), {}, std::chrono::seconds(1)),
+                 std::system_error);
+    EXPECT_THAT(TestSupport::namesIn(tree.path("tmp")), IsEmpty())
+        << "the output files go, also when the launch failed";
 }
 
 TEST(SpawnCommandRunner, TerminatesAChildThatOutlivesItsTimeout) {
@@ -151,5 +140,5 @@ TEST(SpawnCommandRunner, TerminatesAChildThatOutlivesItsTimeout) {
                                                  std::chrono::milliseconds(300));
     EXPECT_EQ(result.status, 128 + SIGTERM);
     EXPECT_EQ(result.standardOutput, "started\n") << "what was written before the end is kept";
-    EXPECT_THAT(filesIn(tree.path("tmp")), IsEmpty());
+    EXPECT_THAT(TestSupport::namesIn(tree.path("tmp")), IsEmpty());
 }
