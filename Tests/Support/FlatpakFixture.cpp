@@ -1,7 +1,7 @@
 #include "FlatpakFixture.hpp"
+#include "TempTree.hpp"
 
 #include <fcntl.h>
-#include <fstream>
 #include <memory>
 #include <spawn.h>
 #include <stdexcept>
@@ -15,11 +15,6 @@ namespace fs = std::filesystem;
 namespace TestSupport {
 
 namespace {
-
-void writeFile(const fs::path& path, const std::string& text) {
-    fs::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary | std::ios::trunc) << text;
-}
 
 std::string appStream(const FlatpakFixtureApp& app) {
     std::string xml =
@@ -129,9 +124,9 @@ FlatpakFixture* FlatpakFixture::shared() {
 FlatpakFixture::FlatpakFixture() : root(folder.root()), repo(root / "repo") {
     // The runtime is its own SDK, holds one file and needs nothing from the network.
     const fs::path runtime = root / "runtime";
-    writeFile(runtime / "metadata", std::string("[Runtime]\nname=") + runtimeID + "\nruntime=" + runtimeID +
+    writeText(runtime / "metadata", std::string("[Runtime]\nname=") + runtimeID + "\nruntime=" + runtimeID +
                                         "/x86_64/1\nsdk=" + runtimeID + "/x86_64/1\n");
-    writeFile(runtime / "files/etc/os-release", "ID=zephrane-fixture\n");
+    writeText(runtime / "files/etc/os-release", "ID=zephrane-fixture\n");
     fs::create_directories(runtime / "usr");
     mustRun({"flatpak", "build-export", "--runtime", "--arch=x86_64", repo.string(), runtime.string(), "1"});
     mustRun({"flatpak", "build-update-repo", repo.string()});
@@ -146,13 +141,13 @@ FlatpakFixture::FlatpakFixture() : root(folder.root()), repo(root / "repo") {
 void FlatpakFixture::exportApp(const FlatpakFixtureApp& app) {
     const fs::path build = root / ("build-" + std::to_string(++builds));
     mustRun({"flatpak", "build-init", "--arch=x86_64", build.string(), app.id, runtimeID, runtimeID, "1"});
-    writeFile(build / "files/bin/hello", "#!/bin/sh\necho hello\n");
+    writeText(build / "files/bin/hello", "#!/bin/sh\necho hello\n");
     fs::permissions(build / "files/bin/hello", fs::perms::owner_exec, fs::perm_options::add);
     if (app.payloadBytes > 0)
-        writeFile(build / "files/share/payload", std::string(app.payloadBytes, 'p'));
+        writeText(build / "files/share/payload", std::string(app.payloadBytes, 'p'));
     if (app.name || app.version) {
         const fs::path xml = build / "files/share/app-info/xmls" / (app.id + ".xml");
-        writeFile(xml, appStream(app));
+        writeText(xml, appStream(app));
         mustRun({"gzip", "-n", "-f", xml.string()});
     }
     mustRun({"flatpak", "build-finish", build.string(), "--command=hello"});

@@ -50,11 +50,15 @@ fs::path TempTree::file(std::string_view relative, std::size_t bytes) const {
     return text(relative, std::string(bytes, 'z'));
 }
 
+void writeText(const fs::path& path, std::string_view content) {
+    fs::create_directories(path.parent_path());
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out.write(content.data(), static_cast<std::streamsize>(content.size()));
+}
+
 fs::path TempTree::text(std::string_view relative, std::string_view content) const {
     const fs::path target = base / relative;
-    fs::create_directories(target.parent_path());
-    std::ofstream out(target, std::ios::binary | std::ios::trunc);
-    out.write(content.data(), static_cast<std::streamsize>(content.size()));
+    writeText(target, content);
     return target;
 }
 

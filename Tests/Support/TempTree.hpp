@@ -36,6 +36,9 @@ bool setTimes(const std::filesystem::path& path, std::int64_t accessed, std::int
 // The names in `folder`, sorted; none when it can't be listed.
 std::vector<std::string> namesIn(const std::filesystem::path& folder);
 
+// Writes `content` to `path`, parents made as needed.
+void writeText(const std::filesystem::path& path, std::string_view content);
+
 // A file's whole content; empty when it can't be read.
 std::string readText(const std::filesystem::path& path);
 

@@ -2,6 +2,7 @@
 #include "App/MainWindow.hpp"
 #include "FlatpakFixture.hpp"
 #include "LocalHttpServer.hpp"
+#include "TempTree.hpp"
 #include "Modules/Updates/UpdatesModel.hpp"
 #include "Support/QmlTestSupport.hpp"
 
@@ -12,7 +13,6 @@
 #include <QTest>
 
 #include <filesystem>
-#include <fstream>
 
 #include <gtest/gtest.h>
 
@@ -104,16 +104,6 @@ void runUpdatesChannel(const QString& language, FlatpakFixture& fixture) {
     fixture.uninstall(id);
 }
 
-void writeFile(const std::filesystem::path& path, const std::string& text) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path) << text;
-}
-
-std::string readFile(const std::filesystem::path& path) {
-    std::ifstream in(path);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
 std::string feedOffering(const std::string& version, const std::string& enclosure) {
     return "<rss><channel><item><title>" + version + "</title><description><![CDATA[<ul><li>Faster start</li>"
            "</ul>]]></description><enclosure url=\"" + enclosure + "\" sparkle:shortVersionString=\"" + version +
@@ -146,8 +136,8 @@ void runFeedUpdates(const QString& language) {
                                   "</string><key>SUFeedURL</key><string>" +
                                   server.url("/" + QString::fromStdString(name).toLower().toStdString() + ".xml") +
                                   "</string></dict></plist>";
-        writeFile(apps / (name + ".app/Contents/Info.plist"), plist);
-        writeFile(apps / (name + ".app") / "Contents/MacOS" / name, "#!/bin/sh\n");
+        TestSupport::writeText(apps / (name + ".app/Contents/Info.plist"), plist);
+        TestSupport::writeText(apps / (name + ".app") / "Contents/MacOS" / name, "#!/bin/sh\n");
         return plist;
     };
     const std::string feedyPlist = bundle("Feedy", "1.0");
@@ -202,12 +192,9 @@ void runFeedUpdates(const QString& language) {
         EXPECT_EQ(rowText(window, "Feedy", "stateText"), qtTrId("updates.failure.download"));
         window->close();
     }
-    EXPECT_EQ(readFile(apps / "Feedy.app/Contents/Info.plist"), feedyPlist) << "the installed app is untouched";
-    std::vector<std::string> left;
-    for (const auto& entry : std::filesystem::directory_iterator(apps))
-        left.push_back(entry.path().filename().string());
-    std::ranges::sort(left);
-    EXPECT_EQ(left, (std::vector<std::string>{"Feedy.app", "Plain.app"})) << "no incoming or backup copy stays";
+    EXPECT_EQ(TestSupport::readText(apps / "Feedy.app/Contents/Info.plist"), feedyPlist) << "the installed app is untouched";
+    EXPECT_EQ(TestSupport::namesIn(apps), (std::vector<std::string>{"Feedy.app", "Plain.app"}))
+        << "no incoming or backup copy stays";
     const QStringList seen = warnings.take();
     EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
     std::filesystem::remove_all(apps);
@@ -225,9 +212,7 @@ TEST(UpdatesChannelWindow, FeedUpdatesInPortuguese) {
 }
 
 TEST(UpdatesChannelWindow, AFlatpakUpdateIsFoundConfirmedAndInstalled) {
-    FlatpakFixture* fixture = FlatpakFixture::shared();
-    if (fixture == nullptr)
-        GTEST_SKIP() << FlatpakFixture::unavailable();
+    REQUIRE_FLATPAK(fixture);
     QmlTestSupport::useLanguage("en");
     runUpdatesChannel("en", *fixture);
 }
@@ -235,9 +220,7 @@ TEST(UpdatesChannelWindow, AFlatpakUpdateIsFoundConfirmedAndInstalled) {
 // The engine's texts keep the language of their first use, so Portuguese gets a process of its own.
 TEST(UpdatesChannelWindow, PortugueseInAProcessOfItsOwn) {
     QmlTestSupport::inPortugueseProcess([] {
-        FlatpakFixture* fixture = FlatpakFixture::shared();
-        if (fixture == nullptr)
-            GTEST_SKIP() << FlatpakFixture::unavailable();
+        REQUIRE_FLATPAK(fixture);
         runUpdatesChannel("pt-BR", *fixture);
     });
 }
