@@ -21,9 +21,6 @@ TEST(Channel, EachRowNamesItsOwnKeysAndThereIsNoEighth) {
 TEST(AppModel, StartsHomeAndNotifiesOnlyWhenTheChannelChanges) {
     AppModel model;
     EXPECT_EQ(model.selection(), Channel::home);
-    EXPECT_FALSE(model.smartScanStartedAt().isValid());
-    EXPECT_FALSE(model.smartScanFinishedAt().isValid());
-
     QSignalSpy spy(&model, &AppModel::selectionChanged);
     model.open(Channel::home);
     EXPECT_EQ(spy.count(), 0);
@@ -34,16 +31,4 @@ TEST(AppModel, StartsHomeAndNotifiesOnlyWhenTheChannelChanges) {
     model.openRaw(8); // no such channel
     EXPECT_EQ(model.selection(), Channel::trash);
     EXPECT_EQ(spy.count(), 1);
-}
-
-TEST(AppModel, EachBuiltChannelHandsItsOwnModelToItsScreen) {
-    AppModel model;
-    EXPECT_EQ(ChannelInfo::of(Channel::junk, model).model, model.junk());
-    EXPECT_EQ(ChannelInfo::of(Channel::lens, model).model, model.spaceLens());
-    EXPECT_EQ(ChannelInfo::of(Channel::large, model).model, model.large());
-    EXPECT_EQ(ChannelInfo::of(Channel::trash, model).model, model.trash());
-    EXPECT_EQ(ChannelInfo::of(Channel::updates, model).model, model.updates());
-    EXPECT_EQ(ChannelInfo::of(Channel::home, model).model, model.home());
-    model.open(Channel::lens);
-    EXPECT_EQ(model.current().title, Channels::title(Channel::lens));
 }

@@ -51,6 +51,22 @@ TEST_F(ShellWindow, ControlDigitsOpenChannelsAndThereIsNoEight) {
     EXPECT_EQ(model.selection(), Channel::home);
 }
 
+TEST_F(ShellWindow, ControlCommaAndTheColumnKeyOpenTheSettingsWindow) {
+    QmlTestSupport::useLanguage("pt-BR");
+    auto* settings = window->findChild<QQuickWindow*>("settings");
+    ASSERT_NE(settings, nullptr);
+    EXPECT_FALSE(settings->isVisible());
+    QTest::keyClick(window, Qt::Key_Comma, Qt::ControlModifier);
+    QmlTestSupport::settle();
+    EXPECT_TRUE(settings->isVisible());
+    settings->close();
+    QmlTestSupport::click(window, QmlTestSupport::find(window, "settingsKey"));
+    EXPECT_TRUE(settings->isVisible());
+    QmlTestSupport::saveScreenshot(*window, "shell-with-settings-key-pt-BR");
+    settings->close();
+    QmlTestSupport::useLanguage("en");
+}
+
 TEST(GoCommands, ChoosingTheChannelOnShowKeepsItSelected) {
     AppModel model;
     GoCommands commands;
@@ -60,7 +76,4 @@ TEST(GoCommands, ChoosingTheChannelOnShowKeepsItSelected) {
     EXPECT_EQ(model.selection(), Channel::junk);
     EXPECT_TRUE(commands.isChecked(1));
     EXPECT_FALSE(commands.isChecked(0));
-    EXPECT_EQ(commands.shortcut(7), "Ctrl+7");
-    EXPECT_EQ(commands.shortcut(8), "");
-    EXPECT_EQ(commands.itemTitle(2), "Space Lens");
 }

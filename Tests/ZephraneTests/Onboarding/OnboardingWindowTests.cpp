@@ -1,4 +1,3 @@
-#include "App/Announcer.hpp"
 #include "App/AppModel.hpp"
 #include "App/FullDiskAccessMonitor.hpp"
 #include "App/MainWindow.hpp"
@@ -44,8 +43,8 @@ void press(QQuickWindow* window, const QString& name, Qt::Key key = Qt::Key_Retu
 } // namespace
 
 TEST(OnboardingFlow, StepsWalkInOrderAndEachMoveIsAnnounced) {
-    QStringList spoken;
-    const Announcer::Sink previous = Announcer::installSink([&](const QString& text) { spoken << text; });
+    QmlTestSupport::AnnouncementLog announced;
+    const QStringList& spoken = announced.said;
     OnboardingFlow flow;
     EXPECT_EQ(flow.step(), OnboardingStep::power);
     flow.back();
@@ -60,7 +59,6 @@ TEST(OnboardingFlow, StepsWalkInOrderAndEachMoveIsAnnounced) {
     flow.restart();
     EXPECT_EQ(flow.step(), OnboardingStep::power);
     EXPECT_FALSE(flow.powered()) << "a new run starts dark";
-    Announcer::installSink(previous);
 }
 
 namespace {

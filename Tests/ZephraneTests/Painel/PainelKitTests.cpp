@@ -1,11 +1,8 @@
-#include "Painel/ByteFormat.hpp"
 #include "Painel/ByteParts.hpp"
 #include "Painel/DotMatrixLogoCanvas.hpp"
 #include "Painel/LEDMeterCanvas.hpp"
 #include "Painel/LEDNumberCanvas.hpp"
 #include "Support/QmlTestSupport.hpp"
-
-#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
@@ -21,16 +18,10 @@ TEST(ByteParts, SplitLikeTheEngineInBothLanguages) {
     QmlTestSupport::useLanguage("en");
     EXPECT_EQ(followed.spoken, "1,2 megabyte") << "no locale means the application's language";
     EXPECT_EQ(ByteParts::make(1'234'567).spoken, "1.2 megabytes");
-
-    // Views that write a size into prose get the same numbers.
-    EXPECT_EQ(ByteFormat::text(1'234'567, "pt-BR"), "1,2 MB");
-    EXPECT_EQ(ByteFormat::spoken(12'500'000'000, "pt-BR"), "12,5 gigabytes");
-    EXPECT_EQ(ByteFormat::parts(999, "en"), ByteParts::make(999, "en"));
 }
 
 TEST(LEDNumberCanvas, TakesBytesOrPartsAndMakesRoomForEachPiece) {
     LEDNumberCanvas number;
-    QSignalSpy content(&number, &LEDNumberCanvas::contentChanged);
     number.setLocale("pt-BR");
     number.setBytes(1'234'567);
     EXPECT_EQ(number.integer(), "1");
@@ -53,7 +44,6 @@ TEST(LEDNumberCanvas, TakesBytesOrPartsAndMakesRoomForEachPiece) {
     EXPECT_EQ(number.spoken(), "42 %") << "parts without words are read as drawn";
     number.setSpoken("42 percent");
     EXPECT_EQ(number.spoken(), "42 percent");
-    EXPECT_GE(content.count(), 6);
 
     const qreal withUnit = number.implicitWidth();
     number.setUnit("");

@@ -32,14 +32,6 @@ TEST(PainelPalette, IncreasedContrastDarkensUnlitCellsAndLightensOutlinesAndSeco
         EXPECT_EQ(standard.*field, contrast.*field);
 }
 
-TEST(PainelPalette, EachAccentIsItsOwnColourAndKnownByName) {
-    EXPECT_NE(PainelPalette::make(PainelAccent::lime, true).accent,
-              PainelPalette::make(PainelAccent::blue, true).accent);
-    for (PainelAccent accent : PainelAccents::allCases)
-        EXPECT_EQ(PainelAccents::fromRaw(PainelAccents::rawValue(accent)), accent);
-    EXPECT_EQ(PainelAccents::fromRaw("purple"), std::nullopt);
-}
-
 TEST(PainelTheme, EveryThemeFollowsTheAccentOfThePreferences) {
     Preferences preferences;
     preferences.setAccent(PainelAccent::lime);

@@ -1,4 +1,3 @@
-#include "App/Announcer.hpp"
 #include "App/AppModel.hpp"
 #include "JunkHome.hpp"
 #include "Modules/Home/HomeModel.hpp"
@@ -29,11 +28,10 @@ struct Home : testing::Test {
     AppModel app;
     HomeModel& home = *app.home();
     std::atomic<bool> holdLeftovers = false;
-    QStringList spoken;
-    Announcer::Sink previousSink;
+    QmlTestSupport::AnnouncementLog announced;
+    QStringList& spoken = announced.said;
 
     void SetUp() override {
-        previousSink = Announcer::installSink([this](const QString& text) { spoken << text; });
         app.junk()->setRunningBundleIDs([] { return std::set<std::string>{}; });
         app.leftovers()->setKnownSource([this] {
             while (holdLeftovers)
@@ -43,10 +41,7 @@ struct Home : testing::Test {
         app.leftovers()->setAccessProbe([] { return true; });
         pointAt(tree.root());
     }
-    void TearDown() override {
-        holdLeftovers = false;
-        Announcer::installSink(previousSink);
-    }
+    void TearDown() override { holdLeftovers = false; }
     void pointAt(const std::filesystem::path& root) {
         app.junk()->setHome(URL::file(root.string()));
         app.leftovers()->setHome(URL::file(root.string()));

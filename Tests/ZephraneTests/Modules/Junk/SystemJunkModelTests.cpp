@@ -141,16 +141,6 @@ TEST_F(JunkModel, RulesLeftOffStartOffWithTheirTagAndTurnOnWhole) {
         << "the rows keep their item lists, so an open list and its focus stay";
 }
 
-TEST_F(JunkModel, StopInAFirstScanLeavesNothingBehind) {
-    const QFuture<void> running = model.scan();
-    model.stop();
-    finish(running);
-    EXPECT_EQ(model.phase(), ModulePhase::idle);
-    EXPECT_TRUE(model.groups().empty());
-    EXPECT_EQ(rows.rowCount(), 0);
-    EXPECT_FALSE(model.hasScanned());
-}
-
 TEST(JunkModelCleaning, AfterAPartialFailureTheRowsShowWhatRemains) {
     TestSupport::TempTree tree;
     tree.file("Stuff/a.tmp", 40000);

@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 namespace fs = std::filesystem;
 
@@ -108,9 +107,6 @@ void runLargeChannel(const QString& language) {
         const fs::path home = testHome(), trash = homeTrash();
         EXPECT_TRUE(fs::exists(trash / "files/holiday.mp4"));
         EXPECT_TRUE(fs::exists(trash / "files/disk.iso"));
-        std::ifstream info(trash / "info/disk.iso.trashinfo");
-        const std::string infoText((std::istreambuf_iterator<char>(info)), {});
-        EXPECT_NE(infoText.find("Path=" + (home / "Downloads/disk.iso").string()), std::string::npos);
         EXPECT_TRUE(fs::exists(home / "Downloads/backup.zip"));
 
         click(window, find(window, "doneKey"));
@@ -120,8 +116,7 @@ void runLargeChannel(const QString& language) {
         QmlTestSupport::saveScreenshot(*window, shot + "9-after");
         window->close();
     }
-    const QStringList seen = warnings.take();
-    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    warnings.expectNone();
     removeFixture();
 }
 
@@ -134,5 +129,5 @@ TEST(LargeChannelWindow, ScanFilterSelectRemoveToTrashAndReport) {
 
 // The engine's texts keep the language of their first use, so Portuguese gets a process of its own.
 TEST(LargeChannelWindow, PortugueseInAProcessOfItsOwn) {
-        QmlTestSupport::inPortugueseProcess([&] { runLargeChannel("pt-BR"); });
+    QmlTestSupport::inPortugueseProcess([] { runLargeChannel("pt-BR"); });
 }

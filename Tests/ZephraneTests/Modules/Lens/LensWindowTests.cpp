@@ -62,17 +62,9 @@ protected:
         warnings.expectNone();
     }
 
-    QQuickItem* find(const char* name) const {
-        return QmlTestSupport::findItem(window->contentItem(), QLatin1String(name));
-    }
-    void click(QQuickItem* item) {
-        ASSERT_NE(item, nullptr);
-        QmlTestSupport::click(*window, *item);
-    }
-
     // The window point in the middle of the first ring-`depth` arc of a folder.
     QPoint folderArc(int depth) const {
-        auto* map = qobject_cast<SunburstCanvas*>(find("sunburst"));
+        auto* map = qobject_cast<SunburstCanvas*>(QmlTestSupport::find(window, "sunburst"));
         const auto geometry = map->geometry();
         for (const auto& segment : lens->navigation()->segments()) {
             if (segment.depth != depth || !segment.node->isDirectory() || segment.node->children().empty())
@@ -87,9 +79,8 @@ protected:
     }
 
     void scanAndWait() {
-        click(find("scanKey"));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return lens->phase() == ModulePhase::ready; }, 30000));
-        QmlTestSupport::settle(100);
+        QmlTestSupport::click(window, QmlTestSupport::find(window, "scanKey"));
+        QmlTestSupport::waitFor([&] { return lens->phase() == ModulePhase::ready; }, 30000, 100);
     }
 
     void waitForReveal() { QmlTestSupport::settle(750); }
@@ -107,9 +98,10 @@ protected:
 TEST_F(LensWindow, ScansDrillsDownByPointerAndKeyboardMarksAndRemoves) {
     QmlTestSupport::saveScreenshot(*window, "lens-idle");
     scanAndWait();
-    auto* map = qobject_cast<SunburstCanvas*>(find("sunburst"));
+    auto* map = qobject_cast<SunburstCanvas*>(QmlTestSupport::find(window, "sunburst"));
     ASSERT_NE(map, nullptr);
-    ASSERT_NE(find("lensList"), nullptr);
+    QQuickItem* list = QmlTestSupport::find(window, "lensList");
+    ASSERT_NE(list, nullptr);
     EXPECT_FALSE(lens->navigation()->segments().empty());
     QmlTestSupport::saveScreenshot(*window, "lens-root");
 
@@ -138,7 +130,7 @@ TEST_F(LensWindow, ScansDrillsDownByPointerAndKeyboardMarksAndRemoves) {
     EXPECT_EQ(lens->navigation()->highlightedRowIndex(), 0);
 
     // Keyboard: down the list, open, mark, back up.
-    find("lensList")->forceActiveFocus();
+    list->forceActiveFocus();
     QTest::keyClick(window, Qt::Key_Down);
     EXPECT_EQ(lens->navigation()->highlightedRowIndex(), 1);
     const std::string projects = lens->navigation()->rowNodes()[1]->path();

@@ -46,19 +46,6 @@ protected:
 
 } // namespace
 
-TEST_F(ModulePhaseLife, TheDestinationIsThePreferencesOwnAndEveryChannelSeesAChangeAtOnce) {
-    preferences.setCleanDestination(CleanDestination::trash);
-    FakeChannelModel other(preferences);
-    QSignalSpy seen(&other, &ModulePhaseModel::destinationChanged);
-    model.setDestinationRaw("delete");
-    EXPECT_EQ(preferences.cleanDestination(), CleanDestination::deleteForGood);
-    EXPECT_EQ(other.destination(), CleanDestination::deleteForGood);
-    EXPECT_EQ(seen.count(), 1);
-    preferences.setCleanDestination(CleanDestination::trash);
-    EXPECT_EQ(model.destinationRaw(), "trash");
-    EXPECT_EQ(seen.count(), 2);
-}
-
 TEST_F(ModulePhaseLife, AChannelWithItsOwnWayOfRemovalIgnoresTheStoredChoiceAndTakesCompanionsAlong) {
     // As the trash channel: empty for good whatever is stored, and an index entry goes with its item.
     tree.file("bin/files/a", 10);

@@ -1,4 +1,3 @@
-#include "App/Announcer.hpp"
 #include "App/Preferences.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
 #include "CleanerCore/Trash/TrashInfo.hpp"
@@ -53,17 +52,15 @@ struct TrashFixture : testing::Test {
     std::atomic<int> reads{0};
     Preferences preferences;
     TrashModel model{preferences};
-    std::vector<QString> spoken;
-    Announcer::Sink previousSink;
+    QmlTestSupport::AnnouncementLog announced;
+    QStringList& spoken = announced.said;
 
     void SetUp() override {
         model.setBins(TrashBin(URL::file(home.string())), [this] {
             ++reads;
             return std::vector<TrashBin>{TrashBin(URL::file(volumeTrash.string()), URL::file(home.string()))};
         });
-        previousSink = Announcer::installSink([this](const QString& text) { spoken.push_back(text); });
     }
-    void TearDown() override { Announcer::installSink(previousSink); }
 };
 
 } // namespace
@@ -94,7 +91,7 @@ TEST_F(TrashFixture, ReadsEveryBinListsTheFirstHundredAndCountsTheRest) {
     EXPECT_EQ(model.foundBytes(), model.startup().bytes + model.volumes()[0].bytes);
     EXPECT_EQ(model.itemCount(), 105);
     EXPECT_EQ(model.reading(), model.foundBytes());
-    ASSERT_EQ(spoken.size(), 1u);
+    ASSERT_EQ(spoken.size(), 1);
     EXPECT_TRUE(spoken[0].contains("105")) << spoken[0].toStdString();
 }
 
@@ -130,7 +127,7 @@ TEST_F(TrashFixture, MissingOrBookkeepingOnlyIsEmptyButADeniedHomeTrashHidesEver
     read(model, true, true);
     EXPECT_EQ(model.access(), TrashModel::Access::granted);
     EXPECT_EQ(model.volumes().size(), 1u);
-    ASSERT_EQ(spoken.size(), 4u);
+    ASSERT_EQ(spoken.size(), 4);
     EXPECT_EQ(spoken[0], qtTrId("trash.announce.empty"));
     EXPECT_EQ(spoken[1], qtTrId("trash.announce.empty"));
     EXPECT_EQ(spoken[2], qtTrId("trash.announce.noAccess"));
