@@ -102,10 +102,6 @@ struct Notifier : testing::Test {
         engine.find = [this](AppUpdateSource source, const auto&, std::stop_token) {
             return source == AppUpdateSource::homebrew ? offered : std::vector<AppUpdate>{};
         };
-        engine.install = [](const AppUpdate&, const auto&) {};
-        engine.isRunning = [](const std::string&) { return false; };
-        engine.openURL = [](const QUrl&) {};
-        engine.copyText = [](const QString&) {};
         engine.now = [this] { return now; };
         updates = std::make_unique<UpdatesModel>(preferences, engine);
         notifier = std::make_unique<OutdatedAppsNotifier>(

@@ -99,9 +99,9 @@ void press(QQuickWindow* window, QQuickItem* item) {
     click(*window, *item);
 }
 
-void click(QQuickWindow* window, QQuickItem* item) {
+void click(QQuickWindow* window, QQuickItem* item, int settleMilliseconds) {
     press(window, item);
-    settle();
+    settle(settleMilliseconds);
 }
 
 void waitFor(const std::function<bool()>& condition, int milliseconds, int settleMilliseconds) {

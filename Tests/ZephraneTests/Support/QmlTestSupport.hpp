@@ -58,7 +58,7 @@ bool shown(QQuickWindow* window, const QString& name);
 // A click in the middle of the item, with no time for events after it.
 void press(QQuickWindow* window, QQuickItem* item);
 // A click in the middle of the item, then a moment for what it starts.
-void click(QQuickWindow* window, QQuickItem* item);
+void click(QQuickWindow* window, QQuickItem* item, int settleMilliseconds = 50);
 // Lets events run until `condition` holds (the test fails if it never does), then lets the window settle.
 void waitFor(const std::function<bool()>& condition, int milliseconds = 20000, int settleMilliseconds = 120);
 

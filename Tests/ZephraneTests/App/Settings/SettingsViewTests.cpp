@@ -40,11 +40,6 @@ QQuickItem* findItem(QQuickWindow& window, const QString& text) {
     return findBy(window, "text", text);
 }
 
-void click(QQuickWindow& window, QQuickItem& item) {
-    QmlTestSupport::click(window, item);
-    QmlTestSupport::settle();
-}
-
 class SettingsWindow : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -101,10 +96,8 @@ TEST_F(SettingsWindow, LoadsInBothLanguagesWithEveryStateShown) {
 
         // A language other than the one the process runs in: the notice and its restart key appear.
         const bool runsInEnglish = AppLanguages::resolvedLocalization(AppLanguages::atLaunch()) == "en";
-        QQuickItem* other = findItem(
-            view, qtTrId(runsInEnglish ? "settings.language.portuguese" : "settings.language.english"));
-        ASSERT_NE(other, nullptr);
-        click(view, *other);
+        QmlTestSupport::click(&view, findItem(view, qtTrId(runsInEnglish ? "settings.language.portuguese"
+                                                                          : "settings.language.english")));
         EXPECT_NE(findItem(view, qtTrId("settings.language.relaunchNotice")), nullptr);
         EXPECT_NE(findItem(view, qtTrId("settings.language.relaunch")), nullptr);
         QSettings().remove(AppLanguages::overrideKey);
@@ -126,9 +119,7 @@ TEST_F(SettingsWindow, LoadsInBothLanguagesWithEveryStateShown) {
 
 TEST_F(SettingsWindow, TheAccentRecoloursAtOnceAndIsKept) {
     QQuickWindow& view = load();
-    QQuickItem* blue = findBy(view, "modelData", "blue");
-    ASSERT_NE(blue, nullptr);
-    click(view, *blue);
+    QmlTestSupport::click(&view, findBy(view, "modelData", "blue"));
     EXPECT_EQ(preferences.accent(), PainelAccent::blue);
     EXPECT_EQ(QSettings().value("accent").toString(), "blue");
     QmlTestSupport::saveScreenshot(view, "settings-accent-blue");
@@ -138,12 +129,10 @@ TEST_F(SettingsWindow, TheWelcomeKeyStartsTheOnboardingOverAndAsksForTheMainWind
     preferences.setOnboardingDone(true);
     QQuickWindow& view = load();
     QSignalSpy asked(&view, SIGNAL(welcomeRequested()));
-    QQuickItem* welcome = findItem(view, qtTrId("settings.about.welcome"));
-    ASSERT_NE(welcome, nullptr);
     // The key sits at the foot of the window; make sure it is in view before clicking.
     view.resize(view.width(), 1000);
     QmlTestSupport::settle();
-    click(view, *welcome);
+    QmlTestSupport::click(&view, findItem(view, qtTrId("settings.about.welcome")));
     EXPECT_FALSE(preferences.onboardingDone());
     EXPECT_EQ(asked.count(), 1);
 }
@@ -151,9 +140,7 @@ TEST_F(SettingsWindow, TheWelcomeKeyStartsTheOnboardingOverAndAsksForTheMainWind
 TEST_F(SettingsWindow, TheDestinationIsOneSettingForTheWindowAndEveryChannel) {
     SystemJunkModel junk(preferences);
     QQuickWindow& view = load();
-    QQuickItem* permanent = findItem(view, qtTrId("settings.cleaning.delete"));
-    ASSERT_NE(permanent, nullptr);
-    click(view, *permanent);
+    QmlTestSupport::click(&view, findItem(view, qtTrId("settings.cleaning.delete")));
     EXPECT_EQ(preferences.cleanDestination(), CleanDestination::deleteForGood);
     EXPECT_EQ(junk.destination(), CleanDestination::deleteForGood) << "the channel follows the window at once";
 

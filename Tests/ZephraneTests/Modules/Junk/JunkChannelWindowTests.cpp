@@ -87,8 +87,7 @@ void runJunkChannel(const QString& language) {
         QmlTestSupport::settle();
         QmlTestSupport::saveScreenshot(*window, shot + "3-results");
 
-        press(window, find(window, "cleanKey"));
-        QmlTestSupport::settle(120);
+        click(window, find(window, "cleanKey"), 120);
         EXPECT_EQ(junk.painelPhase(), PainelPhase::confirm);
         QmlTestSupport::saveScreenshot(*window, shot + "4-confirm");
 
@@ -109,8 +108,7 @@ void runJunkChannel(const QString& language) {
         EXPECT_TRUE(fs::exists(home / ".npm/_cacache"));
         EXPECT_TRUE(fs::exists(home / ".cache/pip"));
 
-        press(window, find(window, "doneKey"));
-        QmlTestSupport::settle(120);
+        click(window, find(window, "doneKey"), 120);
         EXPECT_EQ(junk.painelPhase(), PainelPhase::results);
         QmlTestSupport::saveScreenshot(*window, shot + "6-after");
         window->close();

@@ -94,8 +94,7 @@ void runLargeChannel(const QString& language) {
         EXPECT_EQ(large.selectAllState(), "mixed");
         QmlTestSupport::saveScreenshot(*window, shot + "6-selected");
 
-        click(window, find(window, "cleanKey"));
-        QmlTestSupport::settle(120);
+        click(window, find(window, "cleanKey"), 120);
         EXPECT_EQ(large.painelPhase(), PainelPhase::confirm);
         QmlTestSupport::saveScreenshot(*window, shot + "7-confirm");
 
@@ -109,8 +108,7 @@ void runLargeChannel(const QString& language) {
         EXPECT_TRUE(fs::exists(trash / "files/disk.iso"));
         EXPECT_TRUE(fs::exists(home / "Downloads/backup.zip"));
 
-        click(window, find(window, "doneKey"));
-        QmlTestSupport::settle(120);
+        click(window, find(window, "doneKey"), 120);
         EXPECT_EQ(large.painelPhase(), PainelPhase::results);
         EXPECT_EQ(large.visibleCount(), 1);
         QmlTestSupport::saveScreenshot(*window, shot + "9-after");

@@ -167,28 +167,21 @@ TEST(SpaceLensNavigation, TheCursorStartsAtAnEndAndStopsAtTheEdgesAndHoverWins) 
     EXPECT_EQ(lens.navigation()->centreLine(), "10% of r");
 }
 
+// The window test walks the arrows; here, what it leaves out: Return, Alt, right to left, other keys.
 TEST(SpaceLensNavigation, KeysMoveOpenMarkAndMirrorRightToLeft) {
     LensUnderTest lens;
     lens.adopt(sampleTree());
+    const auto focus = [&] { return lens.navigation()->focusNode()->path(); };
     EXPECT_TRUE(lens.handleKey(Qt::Key_Down, Qt::NoModifier, false));
-    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs"));
-    lens.handleKey(Qt::Key_Right, Qt::NoModifier, false);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
-    lens.handleKey(Qt::Key_Up, Qt::NoModifier, false);
-    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs/notes"));
-    lens.handleKey(Qt::Key_Down, Qt::ControlModifier, false);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs/notes");
-    lens.handleKey(Qt::Key_Up, Qt::AltModifier, false);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
-    // Right to left, the right arrow goes back.
-    lens.handleKey(Qt::Key_Right, Qt::NoModifier, true);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r");
-    lens.handleKey(Qt::Key_Left, Qt::NoModifier, true);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
-    lens.handleKey(Qt::Key_Left, Qt::NoModifier, false);
     lens.handleKey(Qt::Key_Return, Qt::NoModifier, false);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
-    lens.handleKey(Qt::Key_Left, Qt::NoModifier, false);
+    EXPECT_EQ(focus(), "/r/docs");
+    lens.handleKey(Qt::Key_Up, Qt::AltModifier, false);
+    EXPECT_EQ(focus(), "/r");
+    // Right to left, the left arrow opens and the right one goes back.
+    lens.handleKey(Qt::Key_Left, Qt::NoModifier, true);
+    EXPECT_EQ(focus(), "/r/docs");
+    lens.handleKey(Qt::Key_Right, Qt::NoModifier, true);
+    EXPECT_EQ(focus(), "/r");
     lens.handleKey(Qt::Key_Space, Qt::NoModifier, false);
     EXPECT_TRUE(lens.isMarked(url("/r/docs")));
     EXPECT_FALSE(lens.handleKey(Qt::Key_A, Qt::NoModifier, false));

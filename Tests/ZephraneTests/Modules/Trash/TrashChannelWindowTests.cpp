@@ -23,6 +23,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+using QmlTestSupport::click;
 using QmlTestSupport::find;
 using QmlTestSupport::homeTrash;
 using QmlTestSupport::press;
@@ -123,8 +124,7 @@ void runTrashChannel(const QString& language) {
         }
         EXPECT_EQ(QmlTestSupport::findItem(window->contentItem(), "emptyTrashKey", true), nullptr) << "emptying is for good: no trash to empty after it";
 
-        press(window, find(window, "doneKey"));
-        QmlTestSupport::settle(120);
+        click(window, find(window, "doneKey"), 120);
         EXPECT_EQ(trash.painelPhase(), PainelPhase::empty);
         QmlTestSupport::saveScreenshot(*window, shot + "5-empty");
 
