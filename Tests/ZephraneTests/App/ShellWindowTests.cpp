@@ -1,6 +1,5 @@
 #include "App/AppModel.hpp"
 #include "App/GoCommands.hpp"
-#include "App/MainWindow.hpp"
 #include "Support/QmlTestSupport.hpp"
 
 #include <QQmlApplicationEngine>
@@ -14,10 +13,8 @@ namespace {
 class ShellWindow : public ::testing::Test {
 protected:
     void SetUp() override {
-        window = MainWindow::load(engine, model);
+        window = QmlTestSupport::showMainWindow(engine, model);
         ASSERT_NE(window, nullptr);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         QmlTestSupport::settle();
     }
     void TearDown() override { warnings.expectNone(); }

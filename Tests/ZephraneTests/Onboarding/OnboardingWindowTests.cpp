@@ -1,6 +1,5 @@
 #include "App/AppModel.hpp"
 #include "App/FullDiskAccessMonitor.hpp"
-#include "App/MainWindow.hpp"
 #include "JunkHome.hpp"
 #include "Onboarding/OnboardingFlow.hpp"
 #include "Support/QmlTestSupport.hpp"
@@ -74,10 +73,8 @@ void walkOnboarding(const QString& language) {
         model.preferences()->setShowMenuBarAgent(true);
         model.open(Channel::trash);
         QQmlApplicationEngine engine;
-        QQuickWindow* window = MainWindow::load(engine, model);
+        QQuickWindow* window = QmlTestSupport::showMainWindow(engine, model);
         ASSERT_NE(window, nullptr);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         QmlTestSupport::settle(120);
         const QString shot = QStringLiteral("onboarding-%1-").arg(language);
 

@@ -29,11 +29,6 @@ Window {
             width: 300
 
             DotMatrixLogo { objectName: "logo" }
-            DotMatrixLogo { implicitHeight: 14; animatesPowerOn: false; isOn: false }
-            Caption { text: "phase header" }
-            PhaseHeader { text: "Scanning"; busy: true }
-            PhaseHeader { text: "Ready to clean"; tone: PhaseHeader.Ok }
-            PhaseHeader { text: "Nothing to clean"; tone: PhaseHeader.Muted }
             Caption { text: "check lamps: off, on, mixed, focused" }
             Row {
                 spacing: 14
@@ -94,7 +89,6 @@ Window {
                     label: "Selected"
                 }
             }
-            LEDNumber { size: 28; locale: root.locale; bytes: 999; unitColor: PainelTheme.accent; ghostColor: "transparent" }
             Caption { text: "led number: parts" }
             LEDNumber { size: 40; integer: "42"; fraction: "7"; unit: "%"; spoken: "42.7 percent"; color: PainelTheme.accent }
             LEDNumber { width: 320; size: 18; integer: "1,024"; unit: "files"; label: "Found"; horizontalAlignment: Text.AlignRight }

@@ -1,6 +1,8 @@
 #include "Support/QmlTestSupport.hpp"
 
 #include "App/AppLanguage.hpp"
+#include "App/MainWindow.hpp"
+#include "CleanerCore/Trash/TrashInfo.hpp"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -12,6 +14,8 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace QmlTestSupport {
 namespace {
@@ -84,6 +88,16 @@ void click(QQuickWindow& window, const QQuickItem& item) {
     QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
 }
 
+QQuickWindow* showMainWindow(QQmlApplicationEngine& engine, AppModel& model) {
+    QQuickWindow* window = MainWindow::load(engine, model);
+    EXPECT_NE(window, nullptr);
+    if (window != nullptr) {
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window));
+    }
+    return window;
+}
+
 QQuickItem* find(QQuickWindow* window, const QString& name) {
     QQuickItem* item = findItem(window->contentItem(), name, true);
     EXPECT_NE(item, nullptr) << name.toStdString();
@@ -118,6 +132,16 @@ std::filesystem::path testHome() {
 
 std::filesystem::path homeTrash() {
     return std::filesystem::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
+}
+
+std::filesystem::path trashed(const std::filesystem::path& trash, const std::string& name, std::size_t bytes) {
+    std::filesystem::create_directories(trash / "files");
+    std::filesystem::create_directories(trash / "info");
+    const std::filesystem::path item = trash / "files" / name;
+    std::ofstream(item) << std::string(bytes, 'x');
+    std::ofstream(trash / "info" / CleanerCore::TrashInfo::fileName(name))
+        << "[Trash Info]\nPath=/somewhere/" << name << "\nDeletionDate=2026-01-05T10:00:00\n";
+    return item;
 }
 
 void inPortugueseProcess(const std::function<void()>& run) {

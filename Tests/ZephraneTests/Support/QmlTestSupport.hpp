@@ -9,6 +9,8 @@
 #include <filesystem>
 #include <functional>
 
+class AppModel;
+class QQmlApplicationEngine;
 class QQuickItem;
 class QQuickWindow;
 
@@ -50,6 +52,9 @@ void finish(const QFuture<void>& future);
 // Whether the future finishes within the time, events running meanwhile.
 bool finishes(const QFuture<void>& future, int milliseconds = 20000);
 
+// The main window over `model`, shown; null (and the test fails) when it does not load.
+QQuickWindow* showMainWindow(QQmlApplicationEngine& engine, AppModel& model);
+
 // Window tests drive the real window by name, the way a user would.
 // The visible item of that name in the window; the test fails when there is none.
 QQuickItem* find(QQuickWindow* window, const QString& name);
@@ -66,6 +71,8 @@ void waitFor(const std::function<bool()>& condition, int milliseconds = 20000, i
 std::filesystem::path testHome();
 // The freedesktop trash of that home.
 std::filesystem::path homeTrash();
+// Puts `name` in the trash folder `trash` the way a file manager does: the item and its info file.
+std::filesystem::path trashed(const std::filesystem::path& trash, const std::string& name, std::size_t bytes);
 
 // Runs `run` in Portuguese, in a child process of this test program running only the current
 // test: the engine's texts keep the language of their first use.

@@ -1,5 +1,4 @@
 #include "App/AppModel.hpp"
-#include "App/MainWindow.hpp"
 #include "FlatpakFixture.hpp"
 #include "Modules/Apps/UninstallerModel.hpp"
 #include "Modules/Leftovers/LeftoversModel.hpp"
@@ -58,10 +57,8 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         std::set<std::string> running;
         apps.setRunningSource([&] { return running; });
         QQmlApplicationEngine engine;
-        QQuickWindow* window = MainWindow::load(engine, model);
+        QQuickWindow* window = QmlTestSupport::showMainWindow(engine, model);
         ASSERT_NE(window, nullptr);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         const QString shot = QStringLiteral("apps-%1-").arg(language);
 
         apps.scanOnFirstVisit();

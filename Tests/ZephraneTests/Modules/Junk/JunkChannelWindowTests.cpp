@@ -1,5 +1,4 @@
 #include "App/AppModel.hpp"
-#include "App/MainWindow.hpp"
 #include "JunkHome.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
 #include "Support/QmlTestSupport.hpp"
@@ -42,10 +41,8 @@ void runJunkChannel(const QString& language) {
         SystemJunkModel& junk = *model.junk();
         junk.setRunningBundleIDs([] { return std::set<std::string>{"com.example.app"}; });
         QQmlApplicationEngine engine;
-        QQuickWindow* window = MainWindow::load(engine, model);
+        QQuickWindow* window = QmlTestSupport::showMainWindow(engine, model);
         ASSERT_NE(window, nullptr);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         const QString shot = QStringLiteral("junk-%1-").arg(language);
 
         // The automatic scan of a first visit, stopped at once, leaves the channel idle.

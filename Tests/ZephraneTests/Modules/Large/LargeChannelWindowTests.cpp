@@ -1,5 +1,4 @@
 #include "App/AppModel.hpp"
-#include "App/MainWindow.hpp"
 #include "LargeHome.hpp"
 #include "Modules/Large/LargeFilesModel.hpp"
 #include "Support/QmlTestSupport.hpp"
@@ -43,10 +42,8 @@ void runLargeChannel(const QString& language) {
         AppModel model;
         LargeFilesModel& large = *model.large();
         QQmlApplicationEngine engine;
-        QQuickWindow* window = MainWindow::load(engine, model);
+        QQuickWindow* window = QmlTestSupport::showMainWindow(engine, model);
         ASSERT_NE(window, nullptr);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         const QString shot = QStringLiteral("large-%1-").arg(language);
 
         large.scanOnFirstVisit();

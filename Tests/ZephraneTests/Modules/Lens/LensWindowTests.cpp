@@ -1,5 +1,4 @@
 #include "App/AppModel.hpp"
-#include "App/MainWindow.hpp"
 #include "Modules/Lens/LensRowsModel.hpp"
 #include "Modules/Lens/SpaceLensModel.hpp"
 #include "Modules/Lens/SunburstCanvas.hpp"
@@ -49,11 +48,9 @@ protected:
         lens->setScanRoot(URL::file(tree.root().string()));
         lens->setRemovalHome(URL::file(tree.root().string()));
         lens->setDestination(CleanDestination::trash);
-        window = MainWindow::load(engine, model);
+        window = QmlTestSupport::showMainWindow(engine, model);
         ASSERT_NE(window, nullptr);
         window->resize(1180, 760);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         model.open(Channel::lens);
         QmlTestSupport::settle();
     }

@@ -1,6 +1,5 @@
 #include "App/Preferences.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
-#include "CleanerCore/Trash/TrashInfo.hpp"
 #include "FaultySystemCalls.hpp"
 #include "Modules/Trash/TrashModel.hpp"
 #include "ScopedEnvironment.hpp"
@@ -23,22 +22,12 @@ namespace fs = std::filesystem;
 namespace {
 
 using QmlTestSupport::finish;
+using QmlTestSupport::trashed;
 
 // One read of its own: one the watcher started for the fixture's writes ends first.
 void read(TrashModel& model, bool showsProgress, bool announces = false) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return !model.isReading(); }, 20000));
     finish(model.refresh(showsProgress, announces));
-}
-
-// Puts `name` in the trash folder `trash` the way a file manager does: the item and its info file.
-fs::path trashed(const fs::path& trash, const std::string& name, std::size_t bytes) {
-    fs::create_directories(trash / "files");
-    fs::create_directories(trash / "info");
-    const fs::path item = trash / "files" / name;
-    std::ofstream(item) << std::string(bytes, 'x');
-    std::ofstream(trash / "info" / CleanerCore::TrashInfo::fileName(name))
-        << "[Trash Info]\nPath=/somewhere/" << name << "\nDeletionDate=2026-03-04T05:06:07\n";
-    return item;
 }
 
 // A home trash under a temporary XDG_DATA_HOME and one other volume's trash, both fixtures.
