@@ -96,9 +96,7 @@ TEST_F(Agent, ThePopupSamplesWhileShownAndItsKeysOpenTheWindowOnTheirChannel) {
     agent->showPopup(QPoint(200, 200));
     ASSERT_TRUE(QTest::qWaitForWindowExposed(popup));
     QmlTestSupport::settle();
-    QQuickItem* trash = QmlTestSupport::findItem(popup->contentItem(), "emptyTrashAction");
-    ASSERT_NE(trash, nullptr);
-    QmlTestSupport::click(*popup, *trash);
+    QmlTestSupport::click(popup, QmlTestSupport::find(popup, "emptyTrashAction"));
     EXPECT_EQ(model.selection(), Channel::trash);
     EXPECT_TRUE(window->isVisible());
     EXPECT_FALSE(popup->isVisible());
@@ -116,10 +114,7 @@ TEST_F(Agent, PopupIsPhotographedInBothLanguagesWithAQuitAsking) {
         QmlTestSupport::settle(100);
         QmlTestSupport::saveScreenshot(*popup, "tray-popup-" + language);
 
-        QQuickItem* quit = QmlTestSupport::findItem(popup->contentItem(), "hogQuit", true);
-        ASSERT_NE(quit, nullptr);
-        QmlTestSupport::click(*popup, *quit);
-        QmlTestSupport::settle(100);
+        QmlTestSupport::click(popup, QmlTestSupport::find(popup, "hogQuit"), 100);
         EXPECT_EQ(agent->menu()->pendingQuit(), 301);
         QQuickItem* confirm = QmlTestSupport::findItem(popup->contentItem(), "hogConfirm", true);
         ASSERT_NE(confirm, nullptr);

@@ -83,11 +83,6 @@ QQuickItem* findItem(QQuickItem* root, const QString& name, bool visibleOnly) {
     return nullptr;
 }
 
-void click(QQuickWindow& window, const QQuickItem& item) {
-    const QPointF centre = item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
-    QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
-}
-
 QQuickWindow* showMainWindow(QQmlApplicationEngine& engine, AppModel& model) {
     QQuickWindow* window = MainWindow::load(engine, model);
     EXPECT_NE(window, nullptr);
@@ -110,7 +105,8 @@ bool shown(QQuickWindow* window, const QString& name) {
 
 void press(QQuickWindow* window, QQuickItem* item) {
     ASSERT_NE(item, nullptr);
-    click(*window, *item);
+    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
 }
 
 void click(QQuickWindow* window, QQuickItem* item, int settleMilliseconds) {

@@ -43,9 +43,6 @@ void useLanguage(const QString& localization);
 // not QObject children of their loaders); with `visibleOnly`, the first visible one.
 QQuickItem* findItem(QQuickItem* root, const QString& name, bool visibleOnly = false);
 
-// A left click in the middle of the item.
-void click(QQuickWindow& window, const QQuickItem& item);
-
 // Waits for the future, events running meanwhile (the test fails after 20 s), then delivers what it posted.
 void finish(const QFuture<void>& future);
 

@@ -63,7 +63,7 @@ void runHome(const QString& language) {
         model.open(Channel::home);
         QmlTestSupport::settle(120);
 
-        QmlTestSupport::click(*window, *find(window, "reviewKey"));
+        QmlTestSupport::click(window, find(window, "reviewKey"));
         EXPECT_EQ(model.selection(), Channel::junk);
         window->close();
     }

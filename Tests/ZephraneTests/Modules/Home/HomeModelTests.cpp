@@ -112,8 +112,7 @@ TEST_F(Home, SmartScanRunsBothSidesOnceAndSumsWhatTheyFound) {
     }
     EXPECT_EQ(sum, after.totalBytes());
 
-    const ChannelReading junk = home.reading(Channel::junk);
-    EXPECT_TRUE(junk.lit);
+    EXPECT_TRUE(home.reading(Channel::junk).lit);
     EXPECT_FALSE(home.reading(Channel::large).lit) << "the large files take no part";
     EXPECT_EQ(app.large()->phase(), ModulePhase::idle);
 }

@@ -19,13 +19,6 @@ namespace {
 
 using QmlTestSupport::finishes;
 
-std::unordered_set<URL> urlsOf(const std::vector<CleanerCore::CleanupItem>& items) {
-    std::unordered_set<URL> urls;
-    for (const auto& item : items)
-        urls.insert(item.url);
-    return urls;
-}
-
 class ModulePhaseLife : public ::testing::Test {
 protected:
     void SetUp() override { model.setRemovalHome(URL::file(tree.root().string())); }
@@ -256,7 +249,8 @@ TEST_F(ModulePhaseLife, CleaningReportsPerCategoryAtScanSizesAndAGoneItemCountsA
     model.done();
     EXPECT_EQ(model.phase(), ModulePhase::ready);
     EXPECT_EQ(model.painelPhase(), PainelPhase::results);
-    EXPECT_EQ(urlsOf(model.allItems()), (std::unordered_set{URL::file(inHome("keep/k"))}));
+    ASSERT_EQ(model.allItems().size(), 1u);
+    EXPECT_EQ(model.allItems()[0].url, URL::file(inHome("keep/k")));
     // With nothing selected there is nothing to confirm or clean.
     model.setConfirming(true);
     EXPECT_FALSE(model.confirming());

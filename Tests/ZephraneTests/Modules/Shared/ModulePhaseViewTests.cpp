@@ -90,9 +90,8 @@ protected:
         QObject* made = component.createWithInitialProperties(
             {{"model", QVariant::fromValue(static_cast<ModulePhaseModel*>(owned.get()))},
              {"contrast", contrast}});
-        if (!made)
-            FAIL() << component.errorString().toStdString();
         window = qobject_cast<QQuickWindow*>(made);
+        ASSERT_NE(window, nullptr) << component.errorString().toStdString();
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         QmlTestSupport::settle();

