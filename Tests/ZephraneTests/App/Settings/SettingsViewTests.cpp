@@ -20,18 +20,14 @@
 
 namespace {
 
-QList<QQuickItem*> allItems(QQuickItem* root) {
-    QList<QQuickItem*> items{root};
-    for (int i = 0; i < items.size(); ++i)
-        items += items[i]->childItems();
-    return items;
-}
-
-// The first visible item whose `name` property holds `value`.
+// The first visible item whose `name` property holds `value`, nearest the top of the tree first.
 QQuickItem* findBy(QQuickWindow& window, const char* name, const QString& value) {
-    for (QQuickItem* item : allItems(window.contentItem()))
-        if (item->property(name).toString() == value && item->isVisible())
-            return item;
+    QList<QQuickItem*> items{window.contentItem()};
+    for (int i = 0; i < items.size(); ++i) {
+        if (items[i]->property(name).toString() == value && items[i]->isVisible())
+            return items[i];
+        items += items[i]->childItems();
+    }
     return nullptr;
 }
 

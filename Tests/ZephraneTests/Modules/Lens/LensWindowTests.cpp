@@ -132,8 +132,6 @@ TEST_F(LensWindow, ScansDrillsDownByPointerAndKeyboardMarksAndRemoves) {
     const std::string projects = lens->navigation()->rowNodes()[1]->path();
     QTest::keyClick(window, Qt::Key_Right);
     EXPECT_EQ(lens->navigation()->focusNode()->path(), projects);
-    waitForReveal();
-    QmlTestSupport::saveScreenshot(*window, "lens-keyboard-depth2");
     QTest::keyClick(window, Qt::Key_Down, Qt::ControlModifier); // opens nothing without a cursor
     QTest::keyClick(window, Qt::Key_Down);
     QTest::keyClick(window, Qt::Key_Down, Qt::ControlModifier);

@@ -139,7 +139,6 @@ TEST_F(ModulePhaseLife, StopInAFirstScanReturnsToIdleWithNothingShown) {
     model.gate->open();
     ASSERT_TRUE(QTest::qWaitFor([&] { return model.phase() != ModulePhase::scanning; }, 5000));
     EXPECT_EQ(model.phase(), ModulePhase::idle);
-    EXPECT_EQ(model.painelPhase(), PainelPhase::idle);
     EXPECT_FALSE(model.hasScanned());
     EXPECT_TRUE(model.allItems().empty());
     EXPECT_EQ(model.progress().steps[1].state, ScanStep::State::waiting());
