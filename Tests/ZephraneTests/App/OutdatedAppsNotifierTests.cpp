@@ -1,7 +1,7 @@
-#include "App/Announcer.hpp"
 #include "App/OutdatedAppsNotifier.hpp"
 #include "App/Preferences.hpp"
 #include "Modules/Updates/UpdatesModel.hpp"
+#include "Support/QmlTestSupport.hpp"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -88,14 +88,12 @@ struct Notifier : testing::Test {
     QDateTime now = QDateTime(QDate(2026, 6, 10), QTime(9, 0), Qt::UTC);
     std::unique_ptr<UpdatesModel> updates;
     std::unique_ptr<OutdatedAppsNotifier> notifier;
-    std::vector<QString> spoken;
-    Announcer::Sink previousSink;
+    QmlTestSupport::AnnouncementLog announced;
 
     void SetUp() override {
         ASSERT_FALSE(bus.address.isEmpty());
         ASSERT_TRUE(client.isConnected());
         QSettings().clear();
-        previousSink = Announcer::installSink([this](const QString& text) { spoken.push_back(text); });
         UpdatesModel::Engine engine;
         engine.apps = [this] {
             ++scans;
@@ -104,10 +102,6 @@ struct Notifier : testing::Test {
         engine.find = [this](AppUpdateSource source, const auto&, std::stop_token) {
             return source == AppUpdateSource::homebrew ? offered : std::vector<AppUpdate>{};
         };
-        engine.install = [](const AppUpdate&, const auto&) {};
-        engine.isRunning = [](const std::string&) { return false; };
-        engine.openURL = [](const QUrl&) {};
-        engine.copyText = [](const QString&) {};
         engine.now = [this] { return now; };
         updates = std::make_unique<UpdatesModel>(preferences, engine);
         notifier = std::make_unique<OutdatedAppsNotifier>(
@@ -120,7 +114,6 @@ struct Notifier : testing::Test {
         service.unregisterService(notificationsName);
         QDBusConnection::disconnectFromBus(QStringLiteral("notifier-client"));
         QDBusConnection::disconnectFromBus(QStringLiteral("notifier-service"));
-        Announcer::installSink(previousSink);
         QSettings().clear();
     }
 
@@ -139,8 +132,7 @@ TEST_F(Notifier, WithoutAServiceTurningOnRevertsWithAPlainMessage) {
     preferences.setNotifyOutdatedApps(true);
     EXPECT_FALSE(preferences.notifyOutdatedApps());
     EXPECT_FALSE(notifier->isScheduled());
-    ASSERT_EQ(spoken.size(), 1u);
-    EXPECT_EQ(spoken.front(), qtTrId("updates.notify.unavailable"));
+    EXPECT_EQ(announced.said, QStringList{qtTrId("updates.notify.unavailable")});
 }
 
 TEST_F(Notifier, ANewNoticeReplacesThePreviousAndAClickAsksToOpen) {

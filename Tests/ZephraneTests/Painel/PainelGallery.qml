@@ -29,21 +29,6 @@ Window {
             width: 300
 
             DotMatrixLogo { objectName: "logo" }
-            DotMatrixLogo { implicitHeight: 14; animatesPowerOn: false; isOn: false }
-            Caption { text: "phase header" }
-            PhaseHeader { text: "Scanning"; busy: true }
-            PhaseHeader { text: "Ready to clean"; tone: PhaseHeader.Ok }
-            PhaseHeader { text: "Nothing to clean"; tone: PhaseHeader.Muted }
-            Caption { text: "mono label tones" }
-            Row {
-                spacing: 10
-                MonoLabel { text: "normal"; tone: MonoLabel.Normal }
-                MonoLabel { text: "muted"; tone: MonoLabel.Muted }
-                MonoLabel { text: "faint"; tone: MonoLabel.Faint }
-                MonoLabel { text: "accent"; tone: MonoLabel.Accent }
-                MonoLabel { text: "ok"; tone: MonoLabel.Ok }
-                MonoLabel { text: "warn"; tone: MonoLabel.Warn }
-            }
             Caption { text: "check lamps: off, on, mixed, focused" }
             Row {
                 spacing: 14
@@ -104,19 +89,9 @@ Window {
                     label: "Selected"
                 }
             }
-            LEDNumber { size: 28; locale: root.locale; bytes: 999; unitColor: PainelTheme.accent; ghostColor: "transparent" }
             Caption { text: "led number: parts" }
             LEDNumber { size: 40; integer: "42"; fraction: "7"; unit: "%"; spoken: "42.7 percent"; color: PainelTheme.accent }
             LEDNumber { width: 320; size: 18; integer: "1,024"; unit: "files"; label: "Found"; horizontalAlignment: Text.AlignRight }
-            Caption { text: "scan sweep" }
-            Rectangle {
-                width: 320
-                height: 40
-                radius: 6
-                color: PainelTheme.deep
-                clip: true
-                ScanSweep { objectName: "sweep"; anchors.fill: parent; running: false; sweep: 0.55 }
-            }
         }
 
         Column {

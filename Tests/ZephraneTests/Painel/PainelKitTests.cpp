@@ -1,11 +1,8 @@
-#include "Painel/ByteFormat.hpp"
 #include "Painel/ByteParts.hpp"
 #include "Painel/DotMatrixLogoCanvas.hpp"
 #include "Painel/LEDMeterCanvas.hpp"
 #include "Painel/LEDNumberCanvas.hpp"
 #include "Support/QmlTestSupport.hpp"
-
-#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
@@ -21,16 +18,10 @@ TEST(ByteParts, SplitLikeTheEngineInBothLanguages) {
     QmlTestSupport::useLanguage("en");
     EXPECT_EQ(followed.spoken, "1,2 megabyte") << "no locale means the application's language";
     EXPECT_EQ(ByteParts::make(1'234'567).spoken, "1.2 megabytes");
-
-    // Views that write a size into prose get the same numbers.
-    EXPECT_EQ(ByteFormat::text(1'234'567, "pt-BR"), "1,2 MB");
-    EXPECT_EQ(ByteFormat::spoken(12'500'000'000, "pt-BR"), "12,5 gigabytes");
-    EXPECT_EQ(ByteFormat::parts(999, "en"), ByteParts::make(999, "en"));
 }
 
 TEST(LEDNumberCanvas, TakesBytesOrPartsAndMakesRoomForEachPiece) {
     LEDNumberCanvas number;
-    QSignalSpy content(&number, &LEDNumberCanvas::contentChanged);
     number.setLocale("pt-BR");
     number.setBytes(1'234'567);
     EXPECT_EQ(number.integer(), "1");
@@ -53,7 +44,6 @@ TEST(LEDNumberCanvas, TakesBytesOrPartsAndMakesRoomForEachPiece) {
     EXPECT_EQ(number.spoken(), "42 %") << "parts without words are read as drawn";
     number.setSpoken("42 percent");
     EXPECT_EQ(number.spoken(), "42 percent");
-    EXPECT_GE(content.count(), 6);
 
     const qreal withUnit = number.implicitWidth();
     number.setUnit("");
@@ -104,18 +94,7 @@ TEST(LEDMeterCanvas, FillsFromTheLeadingEdgeAndFromTheBottom) {
 TEST(DotMatrixLogoCanvas, PowersOnOneLetterAtATimeWithAnEaseOut) {
     DotMatrixLogoCanvas logo;
     ASSERT_EQ(logo.stepCount(), 8);
-    // Every letter has lit dots, and the gaps between letters have none.
-    for (int step = 0; step < logo.stepCount(); ++step) {
-        int dots = 0;
-        for (int column = 0; column < logo.columns(); ++column)
-            for (int row = 0; row < logo.rows(); ++row)
-                if (DotMatrixLogoCanvas::stepOf(column) == step && DotMatrixLogoCanvas::isFigure(column, row))
-                    ++dots;
-        EXPECT_GE(dots, 12) << "letter " << step;
-    }
-    for (int row = 0; row < logo.rows(); ++row)
-        EXPECT_FALSE(DotMatrixLogoCanvas::isFigure(5, row));
-    EXPECT_FALSE(DotMatrixLogoCanvas::isFigure(logo.columns(), 0));
+    EXPECT_FALSE(DotMatrixLogoCanvas::isFigure(logo.columns(), 0)) << "nothing past the last column";
 
     EXPECT_DOUBLE_EQ(DotMatrixLogoCanvas::brightness(0, 0), 0);
     EXPECT_DOUBLE_EQ(DotMatrixLogoCanvas::brightness(2, 2), 0) << "a step starts unlit";

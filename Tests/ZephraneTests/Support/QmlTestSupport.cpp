@@ -1,6 +1,8 @@
 #include "Support/QmlTestSupport.hpp"
 
 #include "App/AppLanguage.hpp"
+#include "App/MainWindow.hpp"
+#include "CleanerCore/Trash/TrashInfo.hpp"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -12,6 +14,8 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace QmlTestSupport {
 namespace {
@@ -79,9 +83,14 @@ QQuickItem* findItem(QQuickItem* root, const QString& name, bool visibleOnly) {
     return nullptr;
 }
 
-void click(QQuickWindow& window, const QQuickItem& item) {
-    const QPointF centre = item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
-    QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+QQuickWindow* showMainWindow(QQmlApplicationEngine& engine, AppModel& model) {
+    QQuickWindow* window = MainWindow::load(engine, model);
+    EXPECT_NE(window, nullptr);
+    if (window != nullptr) {
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window));
+    }
+    return window;
 }
 
 QQuickItem* find(QQuickWindow* window, const QString& name) {
@@ -96,12 +105,13 @@ bool shown(QQuickWindow* window, const QString& name) {
 
 void press(QQuickWindow* window, QQuickItem* item) {
     ASSERT_NE(item, nullptr);
-    click(*window, *item);
+    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
 }
 
-void click(QQuickWindow* window, QQuickItem* item) {
+void click(QQuickWindow* window, QQuickItem* item, int settleMilliseconds) {
     press(window, item);
-    settle();
+    settle(settleMilliseconds);
 }
 
 void waitFor(const std::function<bool()>& condition, int milliseconds, int settleMilliseconds) {
@@ -118,6 +128,16 @@ std::filesystem::path testHome() {
 
 std::filesystem::path homeTrash() {
     return std::filesystem::path(qEnvironmentVariable("XDG_DATA_HOME").toStdString()) / "Trash";
+}
+
+std::filesystem::path trashed(const std::filesystem::path& trash, const std::string& name, std::size_t bytes) {
+    std::filesystem::create_directories(trash / "files");
+    std::filesystem::create_directories(trash / "info");
+    const std::filesystem::path item = trash / "files" / name;
+    std::ofstream(item) << std::string(bytes, 'x');
+    std::ofstream(trash / "info" / CleanerCore::TrashInfo::fileName(name))
+        << "[Trash Info]\nPath=/somewhere/" << name << "\nDeletionDate=2026-01-05T10:00:00\n";
+    return item;
 }
 
 void inPortugueseProcess(const std::function<void()>& run) {

@@ -9,6 +9,8 @@
 #include <filesystem>
 #include <functional>
 
+class AppModel;
+class QQmlApplicationEngine;
 class QQuickItem;
 class QQuickWindow;
 
@@ -41,14 +43,14 @@ void useLanguage(const QString& localization);
 // not QObject children of their loaders); with `visibleOnly`, the first visible one.
 QQuickItem* findItem(QQuickItem* root, const QString& name, bool visibleOnly = false);
 
-// A left click in the middle of the item.
-void click(QQuickWindow& window, const QQuickItem& item);
-
 // Waits for the future, events running meanwhile (the test fails after 20 s), then delivers what it posted.
 void finish(const QFuture<void>& future);
 
 // Whether the future finishes within the time, events running meanwhile.
 bool finishes(const QFuture<void>& future, int milliseconds = 20000);
+
+// The main window over `model`, shown; null (and the test fails) when it does not load.
+QQuickWindow* showMainWindow(QQmlApplicationEngine& engine, AppModel& model);
 
 // Window tests drive the real window by name, the way a user would.
 // The visible item of that name in the window; the test fails when there is none.
@@ -58,7 +60,7 @@ bool shown(QQuickWindow* window, const QString& name);
 // A click in the middle of the item, with no time for events after it.
 void press(QQuickWindow* window, QQuickItem* item);
 // A click in the middle of the item, then a moment for what it starts.
-void click(QQuickWindow* window, QQuickItem* item);
+void click(QQuickWindow* window, QQuickItem* item, int settleMilliseconds = 50);
 // Lets events run until `condition` holds (the test fails if it never does), then lets the window settle.
 void waitFor(const std::function<bool()>& condition, int milliseconds = 20000, int settleMilliseconds = 120);
 
@@ -66,6 +68,8 @@ void waitFor(const std::function<bool()>& condition, int milliseconds = 20000, i
 std::filesystem::path testHome();
 // The freedesktop trash of that home.
 std::filesystem::path homeTrash();
+// Puts `name` in the trash folder `trash` the way a file manager does: the item and its info file.
+std::filesystem::path trashed(const std::filesystem::path& trash, const std::string& name, std::size_t bytes);
 
 // Runs `run` in Portuguese, in a child process of this test program running only the current
 // test: the engine's texts keep the language of their first use.

@@ -25,18 +25,11 @@ protected:
 
 } // namespace
 
-TEST_F(PreferencesStore, NeverWrittenKeysReadAsTheirDefaults) {
-    const Preferences preferences;
-    EXPECT_TRUE(preferences.showMenuBarAgent());
-    EXPECT_FALSE(preferences.launchAtLogin());
-    EXPECT_FALSE(preferences.notifyOutdatedApps());
-    EXPECT_EQ(preferences.cleanDestinationRaw(), "trash");
-    EXPECT_EQ(preferences.accentRaw(), "orange");
-    EXPECT_FALSE(preferences.onboardingDone());
-}
-
-TEST_F(PreferencesStore, WritesLandUnderTheirKeysAndNotifyOnlyOnChange) {
+TEST_F(PreferencesStore, NeverWrittenKeysReadAsDefaultsAndWritesLandUnderTheirKeysNotifyingOnlyOnChange) {
     Preferences preferences;
+    EXPECT_TRUE(preferences.showMenuBarAgent());
+    EXPECT_EQ(preferences.cleanDestinationRaw(), "trash");
+    EXPECT_FALSE(preferences.onboardingDone());
     QSignalSpy destination(&preferences, &Preferences::cleanDestinationChanged);
     QSignalSpy accent(&preferences, &Preferences::accentChanged);
     preferences.setShowMenuBarAgent(false);

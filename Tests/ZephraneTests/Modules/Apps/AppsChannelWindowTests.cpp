@@ -1,5 +1,4 @@
 #include "App/AppModel.hpp"
-#include "App/MainWindow.hpp"
 #include "FlatpakFixture.hpp"
 #include "Modules/Apps/UninstallerModel.hpp"
 #include "Modules/Leftovers/LeftoversModel.hpp"
@@ -21,6 +20,7 @@ using TestSupport::FlatpakFixture;
 
 namespace {
 
+using QmlTestSupport::click;
 using QmlTestSupport::find;
 using QmlTestSupport::homeTrash;
 using QmlTestSupport::press;
@@ -57,10 +57,8 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         std::set<std::string> running;
         apps.setRunningSource([&] { return running; });
         QQmlApplicationEngine engine;
-        QQuickWindow* window = MainWindow::load(engine, model);
+        QQuickWindow* window = QmlTestSupport::showMainWindow(engine, model);
         ASSERT_NE(window, nullptr);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         const QString shot = QStringLiteral("apps-%1-").arg(language);
 
         apps.scanOnFirstVisit();
@@ -98,8 +96,7 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         apps.refreshRunning();
         QmlTestSupport::settle(150);
 
-        press(window, find(window, "uninstallKey"));
-        QmlTestSupport::settle(150);
+        click(window, find(window, "uninstallKey"), 150);
         EXPECT_EQ(apps.painelPhase(), PainelPhase::confirm);
         EXPECT_EQ(apps.confirmQuestion(), qtTrId("apps.confirm.question.flatpak").arg("Gone Editor"))
             << "an uninstall is not asked as a move to the trash";
@@ -115,8 +112,7 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         EXPECT_FALSE(fs::exists(home / ".var/app" / appID));
         EXPECT_TRUE(fs::exists(homeTrash() / "files" / appID / "config/settings.ini"));
         EXPECT_EQ(apps.successBody(), qtTrId("apps.success.flatpak.trash"));
-        press(window, find(window, "doneKey"));
-        QmlTestSupport::settle(150);
+        click(window, find(window, "doneKey"), 150);
 
         // What two removed apps left behind.
         write(home / ".var/app/org.gone.Writer/data/big", 512 * 1024);
@@ -137,8 +133,7 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         QmlTestSupport::settle(150);
         QQuickItem* firstItem = QmlTestSupport::findItem(writer, "itemCheck", true);
         ASSERT_NE(firstItem, nullptr) << "Return opens the group";
-        press(window, firstItem);
-        QmlTestSupport::settle(150);
+        click(window, firstItem, 150);
         EXPECT_TRUE(leftovers.selection()->stateOf(leftovers.group("org.gone.writer")->items).isMixed);
         QmlTestSupport::saveScreenshot(*window, leftShot + "1-mixed");
         writer->forceActiveFocus();
@@ -147,8 +142,7 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         EXPECT_TRUE(leftovers.selection()->stateOf(leftovers.group("org.gone.writer")->items).isOn);
         QmlTestSupport::saveScreenshot(*window, leftShot + "2-ticked");
 
-        press(window, find(window, "cleanKey"));
-        QmlTestSupport::settle(150);
+        click(window, find(window, "cleanKey"), 150);
         EXPECT_EQ(leftovers.painelPhase(), PainelPhase::confirm);
         QmlTestSupport::saveScreenshot(*window, leftShot + "3-confirm");
         press(window, find(window, "confirmKey"));
@@ -156,8 +150,7 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         QmlTestSupport::saveScreenshot(*window, leftShot + "4-success");
         EXPECT_FALSE(fs::exists(home / ".config/org.gone.Writer"));
         EXPECT_TRUE(fs::exists(home / ".var/app/net.old.Viewer")) << "left unticked";
-        press(window, find(window, "doneKey"));
-        QmlTestSupport::settle(150);
+        click(window, find(window, "doneKey"), 150);
         EXPECT_EQ(leftovers.group("org.gone.writer"), nullptr) << "the emptied group is gone";
 
         // Nothing left, read without access: the empty screen says it may not be everything.
@@ -169,8 +162,7 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
         QmlTestSupport::saveScreenshot(*window, leftShot + "5-empty-partial");
         window->close();
     }
-    const QStringList seen = warnings.take();
-    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    warnings.expectNone();
 }
 
 } // namespace

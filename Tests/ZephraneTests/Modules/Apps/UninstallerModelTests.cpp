@@ -90,7 +90,6 @@ TEST_F(Uninstaller, SearchesByNameOrIdAndSortsThreeWays) {
     ASSERT_EQ(model.phase(), ModulePhase::ready);
     // Sizes were measured during the scan: Writer's leftovers make it the largest.
     EXPECT_THAT(names(model.visibleApps()), ElementsAre("Writer", "Player", "Notes"));
-    EXPECT_EQ(model.appList()->rowCount(), 3);
 
     model.setSearch("   ");
     EXPECT_EQ(model.visibleApps().size(), 3u) << "spaces alone filter nothing";

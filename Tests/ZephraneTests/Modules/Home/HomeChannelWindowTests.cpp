@@ -1,5 +1,4 @@
 #include "App/AppModel.hpp"
-#include "App/MainWindow.hpp"
 #include "JunkHome.hpp"
 #include "Support/QmlTestSupport.hpp"
 
@@ -29,10 +28,8 @@ void runHome(const QString& language) {
         AppModel model;
         model.junk()->setRunningBundleIDs([] { return std::set<std::string>{}; });
         QQmlApplicationEngine engine;
-        QQuickWindow* window = MainWindow::load(engine, model);
+        QQuickWindow* window = QmlTestSupport::showMainWindow(engine, model);
         ASSERT_NE(window, nullptr);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         QmlTestSupport::settle(120);
         const QString shot = QStringLiteral("home-%1-").arg(language);
         EXPECT_EQ(model.selection(), Channel::home);
@@ -66,7 +63,7 @@ void runHome(const QString& language) {
         model.open(Channel::home);
         QmlTestSupport::settle(120);
 
-        QmlTestSupport::click(*window, *find(window, "reviewKey"));
+        QmlTestSupport::click(window, find(window, "reviewKey"));
         EXPECT_EQ(model.selection(), Channel::junk);
         window->close();
     }

@@ -61,11 +61,6 @@ struct JunkModel : testing::Test {
 } // namespace
 
 TEST_F(JunkModel, ScanTicksOffEachRuleAndPreselectsWhatTheRulesSay) {
-    std::vector<QString> paths;
-    QObject::connect(&model, &ModulePhaseModel::progressChanged, [&] {
-        if (const auto& path = model.progress().currentPath; path && (paths.empty() || paths.back() != *path))
-            paths.push_back(*path);
-    });
     fs::remove_all(tree.path("Library/Logs"));
     finish(model.scan());
 
@@ -76,16 +71,12 @@ TEST_F(JunkModel, ScanTicksOffEachRuleAndPreselectsWhatTheRulesSay) {
     ASSERT_EQ(steps.size(), 6u);
     for (std::size_t i = 0; i < steps.size(); ++i) {
         EXPECT_EQ(steps[i].id.toStdString(), JunkRule::defaults()[i].id);
-        EXPECT_EQ(steps[i].title.toStdString(), JunkRule::defaults()[i].title);
         EXPECT_EQ(steps[i].state, ScanStep::State::done(model.groups()[i].totalSize()));
     }
     // A rule with nothing found keeps its tile, done with 0 bytes, but gets no row.
     EXPECT_EQ(steps[1].state, ScanStep::State::done(0));
     EXPECT_EQ(rows.rowCount(), 5);
     EXPECT_EQ(rowOf(rows, "user-logs"), -1);
-    EXPECT_EQ(model.progress().currentPath, std::nullopt);
-    EXPECT_THAT(paths, testing::IsSupersetOf({QString("~/Library/Caches"), QString("~/.npm/_cacache"),
-                                              QString("~/Downloads")}));
 
     // The open application's cache is listed with its note, off, and its category shows mixed.
     const JunkGroup& caches = group("user-caches");
@@ -116,7 +107,6 @@ TEST_F(JunkModel, RulesLeftOffStartOffWithTheirTagAndTurnOnWhole) {
     EXPECT_EQ(model.selection()->stateOf(dot.items), (State{false, false}));
     const int dotRow = rowOf(rows, "dot-cache");
     EXPECT_EQ(role(rows, dotRow, JunkCategoryList::TagRole), "junk.tag.review");
-    EXPECT_EQ(role(rows, rowOf(rows, "user-caches"), JunkCategoryList::TagRole), "junk.tag.review");
     EXPECT_EQ(role(rows, rowOf(rows, "xcode"), JunkCategoryList::TagRole), "");
 
     model.toggleGroup("dot-cache");
@@ -141,16 +131,6 @@ TEST_F(JunkModel, RulesLeftOffStartOffWithTheirTagAndTurnOnWhole) {
         << "the rows keep their item lists, so an open list and its focus stay";
 }
 
-TEST_F(JunkModel, StopInAFirstScanLeavesNothingBehind) {
-    const QFuture<void> running = model.scan();
-    model.stop();
-    finish(running);
-    EXPECT_EQ(model.phase(), ModulePhase::idle);
-    EXPECT_TRUE(model.groups().empty());
-    EXPECT_EQ(rows.rowCount(), 0);
-    EXPECT_FALSE(model.hasScanned());
-}
-
 TEST(JunkModelCleaning, AfterAPartialFailureTheRowsShowWhatRemains) {
     TestSupport::TempTree tree;
     tree.file("Stuff/a.tmp", 40000);
@@ -172,11 +152,8 @@ TEST(JunkModelCleaning, AfterAPartialFailureTheRowsShowWhatRemains) {
     finish(model.clean(CleanerCore::RemovalMode::trash));
     EXPECT_EQ(model.phase(), ModulePhase::done);
     ASSERT_TRUE(model.outcome());
-    ASSERT_EQ(model.outcome()->lines.size(), 1u);
-    EXPECT_EQ(model.outcome()->lines[0].id, "stuff");
-    EXPECT_EQ(model.outcome()->lines[0].count, 2);
-    EXPECT_EQ(model.outcome()->lines[0].bytes, stuffBytes);
-    ASSERT_EQ(model.outcome()->failures.size(), 1u);
+    EXPECT_EQ(model.outcome()->lines, (std::vector<CleanupLine>{{"stuff", "Stuff", 2, stuffBytes}}));
+    EXPECT_EQ(model.outcome()->failures.size(), 1u);
     EXPECT_TRUE(fs::exists(tree.path("Library/Preferences/keep.plist")));
     EXPECT_FALSE(fs::exists(tree.path("Stuff/a.tmp")));
 

@@ -1,5 +1,4 @@
 #include "App/AppModel.hpp"
-#include "App/MainWindow.hpp"
 #include "LargeHome.hpp"
 #include "Modules/Large/LargeFilesModel.hpp"
 #include "Support/QmlTestSupport.hpp"
@@ -12,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 namespace fs = std::filesystem;
 
@@ -44,10 +42,8 @@ void runLargeChannel(const QString& language) {
         AppModel model;
         LargeFilesModel& large = *model.large();
         QQmlApplicationEngine engine;
-        QQuickWindow* window = MainWindow::load(engine, model);
+        QQuickWindow* window = QmlTestSupport::showMainWindow(engine, model);
         ASSERT_NE(window, nullptr);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         const QString shot = QStringLiteral("large-%1-").arg(language);
 
         large.scanOnFirstVisit();
@@ -95,8 +91,7 @@ void runLargeChannel(const QString& language) {
         EXPECT_EQ(large.selectAllState(), "mixed");
         QmlTestSupport::saveScreenshot(*window, shot + "6-selected");
 
-        click(window, find(window, "cleanKey"));
-        QmlTestSupport::settle(120);
+        click(window, find(window, "cleanKey"), 120);
         EXPECT_EQ(large.painelPhase(), PainelPhase::confirm);
         QmlTestSupport::saveScreenshot(*window, shot + "7-confirm");
 
@@ -108,20 +103,15 @@ void runLargeChannel(const QString& language) {
         const fs::path home = testHome(), trash = homeTrash();
         EXPECT_TRUE(fs::exists(trash / "files/holiday.mp4"));
         EXPECT_TRUE(fs::exists(trash / "files/disk.iso"));
-        std::ifstream info(trash / "info/disk.iso.trashinfo");
-        const std::string infoText((std::istreambuf_iterator<char>(info)), {});
-        EXPECT_NE(infoText.find("Path=" + (home / "Downloads/disk.iso").string()), std::string::npos);
         EXPECT_TRUE(fs::exists(home / "Downloads/backup.zip"));
 
-        click(window, find(window, "doneKey"));
-        QmlTestSupport::settle(120);
+        click(window, find(window, "doneKey"), 120);
         EXPECT_EQ(large.painelPhase(), PainelPhase::results);
         EXPECT_EQ(large.visibleCount(), 1);
         QmlTestSupport::saveScreenshot(*window, shot + "9-after");
         window->close();
     }
-    const QStringList seen = warnings.take();
-    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    warnings.expectNone();
     removeFixture();
 }
 
@@ -134,5 +124,5 @@ TEST(LargeChannelWindow, ScanFilterSelectRemoveToTrashAndReport) {
 
 // The engine's texts keep the language of their first use, so Portuguese gets a process of its own.
 TEST(LargeChannelWindow, PortugueseInAProcessOfItsOwn) {
-        QmlTestSupport::inPortugueseProcess([&] { runLargeChannel("pt-BR"); });
+    QmlTestSupport::inPortugueseProcess([] { runLargeChannel("pt-BR"); });
 }

@@ -167,28 +167,21 @@ TEST(SpaceLensNavigation, TheCursorStartsAtAnEndAndStopsAtTheEdgesAndHoverWins) 
     EXPECT_EQ(lens.navigation()->centreLine(), "10% of r");
 }
 
+// The window test walks the arrows; here, what it leaves out: Return, Alt, right to left, other keys.
 TEST(SpaceLensNavigation, KeysMoveOpenMarkAndMirrorRightToLeft) {
     LensUnderTest lens;
     lens.adopt(sampleTree());
+    const auto focus = [&] { return lens.navigation()->focusNode()->path(); };
     EXPECT_TRUE(lens.handleKey(Qt::Key_Down, Qt::NoModifier, false));
-    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs"));
-    lens.handleKey(Qt::Key_Right, Qt::NoModifier, false);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
-    lens.handleKey(Qt::Key_Up, Qt::NoModifier, false);
-    EXPECT_EQ(lens.navigation()->cursor(), url("/r/docs/notes"));
-    lens.handleKey(Qt::Key_Down, Qt::ControlModifier, false);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs/notes");
-    lens.handleKey(Qt::Key_Up, Qt::AltModifier, false);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
-    // Right to left, the right arrow goes back.
-    lens.handleKey(Qt::Key_Right, Qt::NoModifier, true);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r");
-    lens.handleKey(Qt::Key_Left, Qt::NoModifier, true);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
-    lens.handleKey(Qt::Key_Left, Qt::NoModifier, false);
     lens.handleKey(Qt::Key_Return, Qt::NoModifier, false);
-    EXPECT_EQ(lens.navigation()->focusNode()->path(), "/r/docs");
-    lens.handleKey(Qt::Key_Left, Qt::NoModifier, false);
+    EXPECT_EQ(focus(), "/r/docs");
+    lens.handleKey(Qt::Key_Up, Qt::AltModifier, false);
+    EXPECT_EQ(focus(), "/r");
+    // Right to left, the left arrow opens and the right one goes back.
+    lens.handleKey(Qt::Key_Left, Qt::NoModifier, true);
+    EXPECT_EQ(focus(), "/r/docs");
+    lens.handleKey(Qt::Key_Right, Qt::NoModifier, true);
+    EXPECT_EQ(focus(), "/r");
     lens.handleKey(Qt::Key_Space, Qt::NoModifier, false);
     EXPECT_TRUE(lens.isMarked(url("/r/docs")));
     EXPECT_FALSE(lens.handleKey(Qt::Key_A, Qt::NoModifier, false));
@@ -268,12 +261,6 @@ TEST(SpaceLensRows, RowsFollowTheFocusMarksAndHighlight) {
     EXPECT_FALSE(nav.hovered());
 }
 
-TEST(SpaceLensTexts, TheHomeFolderAndTheRootHaveNamesOfTheirOwn) {
-    EXPECT_EQ(LensText::displayName(URL::file(QDir::homePath().toStdString() + "/")), "Home");
-    EXPECT_EQ(LensText::displayName(url("/")), "/");
-    EXPECT_EQ(LensText::displayName(url("/a/b c")), "b c");
-}
-
 TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {
     TestSupport::TempTree tree;
     tree.file("a/one.bin", 300000);
@@ -284,13 +271,13 @@ TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {
     SpaceLensModel lens(preferences);
     EXPECT_EQ(lens.scanRoot(), URL::file(QDir::homePath().toStdString()));
     lens.setScanRoot(URL::file(tree.root().string()));
+    // The home folder and the root have names of their own.
+    EXPECT_EQ(LensText::displayName(URL::file(QDir::homePath().toStdString() + "/")), "Home");
+    EXPECT_EQ(LensText::displayName(url("/")), "/");
 
     // Cancelled before anything came back: back to idle, nothing kept.
     QFuture<void> first = lens.scan();
     EXPECT_EQ(lens.phase(), ModulePhase::scanning);
-    ASSERT_EQ(lens.progress().steps.size(), 1u);
-    EXPECT_EQ(lens.progress().steps[0].id, "tree");
-    EXPECT_EQ(lens.progress().steps[0].state, ScanStep::State::scanning());
     lens.stop();
     ASSERT_TRUE(finishes(first));
     EXPECT_EQ(lens.phase(), ModulePhase::idle);
@@ -305,8 +292,6 @@ TEST(SpaceLensScan, ScansTheChosenFolderAndCancelsBackToWhatWasThere) {
     EXPECT_GE(scanned->size(), 600000);
     EXPECT_EQ(lens.progress().steps[0].state, ScanStep::State::done(scanned->size()));
     EXPECT_EQ(lens.progress().itemCount, scanned->itemCount());
-    EXPECT_EQ(lens.navigation()->path().size(), 1u);
-    EXPECT_FALSE(lens.navigation()->segments().empty());
     EXPECT_EQ(lens.painelPhase(), PainelPhase::results);
 
     lens.toggleMark(URL::file(tree.path("three.bin").string()));

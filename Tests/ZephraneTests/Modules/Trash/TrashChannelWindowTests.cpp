@@ -1,7 +1,5 @@
 #include "App/AppModel.hpp"
-#include "App/MainWindow.hpp"
 #include "CleanerCore/Platform/SystemCalls.hpp"
-#include "CleanerCore/Trash/TrashInfo.hpp"
 #include "FaultySystemCalls.hpp"
 #include "JunkHome.hpp"
 #include "Modules/Junk/SystemJunkModel.hpp"
@@ -16,17 +14,18 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
 
 namespace {
 
+using QmlTestSupport::click;
 using QmlTestSupport::find;
 using QmlTestSupport::homeTrash;
 using QmlTestSupport::press;
 using QmlTestSupport::testHome;
+using QmlTestSupport::trashed;
 using QmlTestSupport::waitFor;
 
 void removeFixture() {
@@ -40,23 +39,14 @@ fs::path volumeTrash() {
     return testHome() / "Volumes/USB STICK" / (".Trash-" + std::to_string(::getuid()));
 }
 
-// An item deleted some weeks ago, beside what the junk channel puts in the trash today.
-void trashedLongAgo(const std::string& name, std::size_t bytes, const fs::path& trash = homeTrash()) {
-    fs::create_directories(trash / "files");
-    fs::create_directories(trash / "info");
-    std::ofstream(trash / "files" / name) << std::string(bytes, 'x');
-    std::ofstream(trash / "info" / CleanerCore::TrashInfo::fileName(name))
-        << "[Trash Info]\nPath=/home/someone/" << name << "\nDeletionDate=2026-01-05T10:00:00\n";
-}
-
 // The junk channel's report leads here; the trash it filled is listed, asked about from the
 // keyboard, emptied by holding the key, and reported. A trash that can't be read shows its panel.
 void runTrashChannel(const QString& language) {
     removeFixture();
     TestSupport::buildJunkHome(testHome());
-    trashedLongAgo("Quarterly report.pdf", 300 * 1024);
-    trashedLongAgo("old notes.txt", 2000);
-    trashedLongAgo("holiday.mov", 900 * 1024, volumeTrash());
+    trashed(homeTrash(), "Quarterly report.pdf", 300 * 1024);
+    trashed(homeTrash(), "old notes.txt", 2000);
+    trashed(volumeTrash(), "holiday.mov", 900 * 1024);
     QmlTestSupport::WarningCollector warnings;
     {
         AppModel model;
@@ -69,10 +59,8 @@ void runTrashChannel(const QString& language) {
             return std::vector{CleanerCore::TrashBin(CleanerCore::URL::file(volumeTrash().string()), home)};
         });
         QQmlApplicationEngine engine;
-        QQuickWindow* window = MainWindow::load(engine, model);
+        QQuickWindow* window = QmlTestSupport::showMainWindow(engine, model);
         ASSERT_NE(window, nullptr);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         const QString shot = QStringLiteral("trash-%1-").arg(language);
 
         // Junk to the trash, then the report's key.
@@ -123,13 +111,12 @@ void runTrashChannel(const QString& language) {
         }
         EXPECT_EQ(QmlTestSupport::findItem(window->contentItem(), "emptyTrashKey", true), nullptr) << "emptying is for good: no trash to empty after it";
 
-        press(window, find(window, "doneKey"));
-        QmlTestSupport::settle(120);
+        click(window, find(window, "doneKey"), 120);
         EXPECT_EQ(trash.painelPhase(), PainelPhase::empty);
         QmlTestSupport::saveScreenshot(*window, shot + "5-empty");
 
         // What the file manager puts in the trash shows by itself.
-        trashedLongAgo("old notes.txt", 2000);
+        trashed(homeTrash(), "old notes.txt", 2000);
         waitFor([&] { return trash.itemCount() == 1 && !trash.isReading(); });
         EXPECT_EQ(trash.painelPhase(), PainelPhase::results);
 
@@ -150,8 +137,7 @@ void runTrashChannel(const QString& language) {
         EXPECT_NE(find(window, "emptyKey"), nullptr);
         window->close();
     }
-    const QStringList seen = warnings.take();
-    EXPECT_TRUE(seen.isEmpty()) << seen.join('\n').toStdString();
+    warnings.expectNone();
     removeFixture();
 }
 
