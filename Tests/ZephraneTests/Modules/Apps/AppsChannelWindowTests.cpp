@@ -168,9 +168,7 @@ void runAppsChannels(const QString& language, FlatpakFixture& fixture) {
 } // namespace
 
 TEST(AppsChannelWindow, UninstallAFlatpakThenClearLeftovers) {
-    FlatpakFixture* fixture = FlatpakFixture::shared();
-    if (fixture == nullptr)
-        GTEST_SKIP() << FlatpakFixture::unavailable();
+    REQUIRE_FLATPAK(fixture);
     QmlTestSupport::useLanguage("en");
     runAppsChannels("en", *fixture);
 }
@@ -178,9 +176,7 @@ TEST(AppsChannelWindow, UninstallAFlatpakThenClearLeftovers) {
 // The engine's texts keep the language of their first use, so Portuguese gets a process of its own.
 TEST(AppsChannelWindow, PortugueseInAProcessOfItsOwn) {
     QmlTestSupport::inPortugueseProcess([] {
-        FlatpakFixture* fixture = FlatpakFixture::shared();
-        if (fixture == nullptr)
-            GTEST_SKIP() << FlatpakFixture::unavailable();
+        REQUIRE_FLATPAK(fixture);
         runAppsChannels("pt-BR", *fixture);
     });
 }

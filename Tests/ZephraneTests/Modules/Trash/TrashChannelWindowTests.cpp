@@ -93,8 +93,8 @@ void runTrashChannel(const QString& language) {
         EXPECT_EQ(trash.phase(), ModulePhase::ready);
         EXPECT_TRUE(fs::exists(homeTrash() / "files/old notes.txt"));
 
-        // A short press does nothing; a held one empties.
-        const QPoint keyCentre = emptyKey->mapToScene(QPointF(emptyKey->width() / 2, emptyKey->height() / 2)).toPoint(); // the key goes with the results it empties
+        // Emptying takes a held press; the key goes away with the results it empties.
+        const QPoint keyCentre = emptyKey->mapToScene(QPointF(emptyKey->width() / 2, emptyKey->height() / 2)).toPoint();
         QTest::mousePress(window, Qt::LeftButton, {}, keyCentre);
         QTest::qWait(500);
         QmlTestSupport::saveScreenshot(*window, shot + "3-holding");
