@@ -83,6 +83,17 @@ TEST_F(HoldToConfirm, ReleaseFiresOnlyPastTheDurationAndGivesUpOnlyBeforeNineTen
     EXPECT_FALSE(key.gaveUp());
 }
 
+TEST_F(HoldToConfirm, AnotherPressStartsTheTimeAgainEvenWithLessMotion) {
+    key.setReducedMotion(true);
+    hold(1400ms);
+    key.release();
+    hold(200ms);
+    EXPECT_NEAR(key.progress(), 200.0 / 1500.0, 1e-9);
+    now += 1299ms;
+    key.tick();
+    EXPECT_EQ(actions, 0) << "two short holds never add up to a removal";
+}
+
 TEST_F(HoldToConfirm, ADisabledKeyNeitherFillsNorFiresAndDisablingDropsAHoldUnderTheFinger) {
     hold(1s);
     key.setEnabled(false);
