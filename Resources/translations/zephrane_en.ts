@@ -1948,8 +1948,8 @@
         <translation>Updates finished: %1</translation>
     </message>
     <message id="updates.announce.stopped">
-        <source>Installing stopped after %1 of %2 apps</source>
-        <translation>Installing stopped after %1 of %2 apps</translation>
+        <source>Installing stopped: %1 of %2 apps done</source>
+        <translation>Installing stopped: %1 of %2 apps done</translation>
     </message>
     <message id="updates.column.app">
         <source>App</source>
@@ -1996,8 +1996,8 @@
         <translation>Check again</translation>
     </message>
     <message id="updates.stop">
-        <source>Stop after this app</source>
-        <translation>Stop after this app</translation>
+        <source>Stop installing</source>
+        <translation>Stop installing</translation>
     </message>
     <message id="updates.stopping">
         <source>Stopping…</source>

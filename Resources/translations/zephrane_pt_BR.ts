@@ -1948,8 +1948,8 @@
         <translation>Atualizações concluídas: %1</translation>
     </message>
     <message id="updates.announce.stopped">
-        <source>Installing stopped after %1 of %2 apps</source>
-        <translation>Instalação interrompida após %1 de %2 apps</translation>
+        <source>Installing stopped: %1 of %2 apps done</source>
+        <translation>Instalação interrompida: %1 de %2 apps concluídos</translation>
     </message>
     <message id="updates.column.app">
         <source>App</source>
@@ -1996,8 +1996,8 @@
         <translation>Verificar de novo</translation>
     </message>
     <message id="updates.stop">
-        <source>Stop after this app</source>
-        <translation>Parar após este app</translation>
+        <source>Stop installing</source>
+        <translation>Parar a instalação</translation>
     </message>
     <message id="updates.stopping">
         <source>Stopping…</source>

@@ -153,7 +153,8 @@ void operationDone(FlatpakTransaction*, FlatpakTransactionOperation*, const char
 
 } // namespace
 
-void installFlatpakUpdate(const FlatpakUpdate& update, const std::function<void(FlatpakUpdateStage)>& progress) {
+void installFlatpakUpdate(const FlatpakUpdate& update, const std::function<void(FlatpakUpdateStage)>& progress,
+                          std::stop_token stop) {
     GObjectPointer<::FlatpakInstallation> installation;
     for (auto& opened : openFlatpakInstallations())
         if (where(opened.get()) == update.installation) {
@@ -181,7 +182,9 @@ void installFlatpakUpdate(const FlatpakUpdate& update, const std::function<void(
     TransactionStages stages{&progress};
     g_signal_connect(transaction.get(), "new-operation", G_CALLBACK(newOperation), &stages);
     g_signal_connect(transaction.get(), "operation-done", G_CALLBACK(operationDone), &stages);
-    if (!flatpak_transaction_run(transaction.get(), nullptr, &error))
+    const GObjectPointer<GCancellable> cancellable(g_cancellable_new());
+    const std::stop_callback cancel(stop, [&cancellable] { g_cancellable_cancel(cancellable.get()); });
+    if (!flatpak_transaction_run(transaction.get(), cancellable.get(), &error))
         fail(error, "update failed");
 }
 

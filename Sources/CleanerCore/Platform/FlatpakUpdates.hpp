@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <stdexcept>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -42,7 +43,9 @@ public:
 // Updates the app to what its remote offers, in one libflatpak transaction of its installation
 // (OSTree checks the remote's signatures when it has them; a system installation may ask for the
 // administrator through polkit). `progress` hears each stage once, in order, from this thread.
-// Throws FlatpakUpdateError.
-void installFlatpakUpdate(const FlatpakUpdate& update, const std::function<void(FlatpakUpdateStage)>& progress);
+// Throws FlatpakUpdateError, also when `stop` cuts the transaction short (OSTree leaves the old
+// deployment in place until the new one is complete).
+void installFlatpakUpdate(const FlatpakUpdate& update, const std::function<void(FlatpakUpdateStage)>& progress,
+                          std::stop_token stop = {});
 
 } // namespace CleanerCore::Platform

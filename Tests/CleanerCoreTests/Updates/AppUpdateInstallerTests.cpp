@@ -282,6 +282,21 @@ TEST(AppUpdateInstaller, EveryFailureLeavesTheInstalledAppUntouched) {
     }
 }
 
+TEST(AppUpdateInstaller, AStopDuringTheDownloadEndsBeforeAnythingIsUnpacked) {
+    Fixture fixture;
+    std::stop_source stop;
+    EXPECT_THROW(fixture.installer.install(
+                     fixture.update, [](const std::string&) { return false; },
+                     [&](Stage stage) {
+                         if (stage == Stage::downloading)
+                             stop.request_stop();
+                     },
+                     stop.get_token()),
+                 AppUpdateInstaller::OperationCancelled);
+    EXPECT_THAT(fixture.runner.calls, IsEmpty());
+    fixture.expectUntouched();
+}
+
 TEST(AppUpdateInstaller, ATakenBackupNameGetsATag) {
     Fixture fixture;
     fixture.tree.text("Applications/Foo 1.0.app", "someone else's");

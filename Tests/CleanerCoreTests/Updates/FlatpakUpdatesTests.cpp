@@ -71,15 +71,24 @@ TEST(FlatpakUpdates, AnUpdateTransactionDeploysTheOfferedVersion) {
     const auto* update = findUpdate(updates, id);
     ASSERT_NE(update, nullptr);
 
+    const auto version = [&] {
+        std::optional<std::string> found;
+        for (const auto& installed : Platform::installedFlatpaks())
+            if (installed.id == id)
+                found = installed.version;
+        return found;
+    };
+    std::stop_source stopped;
+    stopped.request_stop();
+    EXPECT_THROW(Platform::installFlatpakUpdate(*update, [](Platform::FlatpakUpdateStage) {}, stopped.get_token()),
+                 Platform::FlatpakUpdateError);
+    EXPECT_EQ(version(), "1.0") << "a stopped transaction leaves the old deployment";
+
     std::vector<Platform::FlatpakUpdateStage> stages;
     Platform::installFlatpakUpdate(*update, [&](Platform::FlatpakUpdateStage stage) { stages.push_back(stage); });
     EXPECT_THAT(stages, testing::ElementsAre(Platform::FlatpakUpdateStage::downloading,
                                              Platform::FlatpakUpdateStage::installing));
-    std::optional<std::string> version;
-    for (const auto& installed : Platform::installedFlatpaks())
-        if (installed.id == id)
-            version = installed.version;
-    EXPECT_EQ(version, "2.0");
+    EXPECT_EQ(version(), "2.0");
     EXPECT_EQ(findUpdate(Platform::flatpakUpdates(false), id), nullptr);
 
     fixture->uninstall(id);

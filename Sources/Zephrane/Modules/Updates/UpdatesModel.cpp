@@ -104,9 +104,10 @@ UpdatesModel::Engine UpdatesModel::Engine::system() {
         return CleanerCore::AppInventory::runningBundleIDs().contains(lower);
     };
     engine.install = [parts, isRunning = engine.isRunning](const AppUpdate& update,
-                                                           const std::function<void(Stage)>& progress) {
+                                                           const std::function<void(Stage)>& progress,
+                                                           std::stop_token stop) {
         if (update.source != Source::flatpak) {
-            parts->installer->install(update, isRunning, progress);
+            parts->installer->install(update, isRunning, progress, stop);
             return;
         }
         std::optional<CleanerCore::Platform::FlatpakUpdate> offered;
@@ -117,11 +118,19 @@ UpdatesModel::Engine UpdatesModel::Engine::system() {
         }
         if (!offered)
             throw AppUpdateInstaller::Failure(AppUpdateInstaller::Failure::Kind::noDownload);
-        CleanerCore::Platform::installFlatpakUpdate(
-            *offered, [&](CleanerCore::Platform::FlatpakUpdateStage stage) {
-                progress(stage == CleanerCore::Platform::FlatpakUpdateStage::downloading ? Stage::downloading
-                                                                                         : Stage::installing);
-            });
+        try {
+            CleanerCore::Platform::installFlatpakUpdate(
+                *offered,
+                [&](CleanerCore::Platform::FlatpakUpdateStage stage) {
+                    progress(stage == CleanerCore::Platform::FlatpakUpdateStage::downloading ? Stage::downloading
+                                                                                             : Stage::installing);
+                },
+                stop);
+        } catch (const CleanerCore::Platform::FlatpakUpdateError&) {
+            if (stop.stop_requested())
+                throw AppUpdateInstaller::OperationCancelled();
+            throw;
+        }
     };
     engine.openURL = [](const QUrl& url) { QDesktopServices::openUrl(url); };
     engine.copyText = [](const QString& text) {
@@ -300,21 +309,25 @@ QFuture<void> UpdatesModel::install(std::vector<AppUpdate> list) {
     const Engine parts = engine;
     const auto size = static_cast<int>(list.size());
     batchStop = std::stop_source();
-    auto begun = std::make_shared<std::atomic<int>>(0);
-    worker = QtConcurrent::run([list = std::move(list), parts, post, stop = batchStop.get_token(), begun] {
+    auto done = std::make_shared<std::atomic<int>>(0);
+    worker = QtConcurrent::run([list = std::move(list), parts, post, stop = batchStop.get_token(), done] {
         for (const AppUpdate& each : list) {
             if (stop.stop_requested())
                 return;
-            ++*begun;
             const QString id = QString::fromStdString(each.id());
             if (parts.isRunning(*each.bundleID)) {
                 post(id, {RowState::Kind::needsQuit});
+                ++*done;
                 continue;
             }
             post(id, {RowState::Kind::working, Stage::downloading});
             try {
-                parts.install(each, [&](Stage stage) { post(id, {RowState::Kind::working, stage}); });
+                parts.install(
+                    each, [&](Stage stage) { post(id, {RowState::Kind::working, stage}); }, stop);
                 post(id, {RowState::Kind::installed});
+            } catch (const AppUpdateInstaller::OperationCancelled&) {
+                post(id, {}); // as it was before the batch
+                return;
             } catch (const AppUpdateInstaller::Failure& failure) {
                 if (failure.kind() == AppUpdateInstaller::Failure::Kind::appRunning)
                     post(id, {RowState::Kind::needsQuit});
@@ -324,24 +337,25 @@ QFuture<void> UpdatesModel::install(std::vector<AppUpdate> list) {
             } catch (...) {
                 post(id, {RowState::Kind::failed, Stage::downloading, describe(std::current_exception())});
             }
+            ++*done;
         }
     });
     // Through a watcher, not a continuation: one attached after a quick batch has already ended ran
     // at once, before the rows' states had arrived.
-    auto done = std::make_shared<QPromise<void>>();
-    done->start();
-    whenDone(this, worker, [this, size, begun, done] {
+    auto ended = std::make_shared<QPromise<void>>();
+    ended->start();
+    whenDone(this, worker, [this, size, done, ended] {
         installing = false;
         emit statesChanged();
         const QLocale locale = PhaseFormat::locale();
-        if (const int tried = *begun; tried < size)
+        if (const int finished = *done; finished < size)
             Announcer::announce(
-                qtTrId("updates.announce.stopped").arg(locale.toString(tried), locale.toString(size)));
+                qtTrId("updates.announce.stopped").arg(locale.toString(finished), locale.toString(size)));
         else
             Announcer::announce(qtTrId("updates.announce.finished").arg(locale.toString(size)));
-        done->finish();
+        ended->finish();
     });
-    return done->future();
+    return ended->future();
 }
 
 QString UpdatesModel::describe(const std::exception_ptr& error) {

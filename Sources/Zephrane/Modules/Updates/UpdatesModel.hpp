@@ -55,13 +55,15 @@ public:
     };
 
     // What the model reaches outside itself; tests give canned ones. `find` and `install` run on
-    // worker threads; `install` throws what the installer throws and reports stages from its thread.
+    // worker threads; `install` throws what the installer throws (OperationCancelled once `stop` is
+    // requested before the swap) and reports stages from its thread.
     struct Engine {
         std::function<std::vector<CleanerCore::InstalledApp>()> apps;
         std::function<std::vector<CleanerCore::AppUpdate>(
             Source, const std::vector<CleanerCore::InstalledApp>&, std::stop_token)>
             find;
-        std::function<void(const CleanerCore::AppUpdate&, const std::function<void(Stage)>&)> install;
+        std::function<void(const CleanerCore::AppUpdate&, const std::function<void(Stage)>&, std::stop_token)>
+            install;
         std::function<bool(const std::string& bundleID)> isRunning;
         std::function<void(const QUrl&)> openURL;
         std::function<void(const QString&)> copyText;
@@ -110,8 +112,8 @@ public:
     Q_INVOKABLE void requestInstallSelected();
     Q_INVOKABLE void confirmInstall();
     Q_INVOKABLE void cancelInstall();
-    // The app being installed finishes (a half-done swap is worse than a late stop); the rest of
-    // the batch is not begun.
+    // The app under way is abandoned if its swap has not begun (a half-done swap is worse than a
+    // late stop); the rest of the batch is not begun.
     Q_INVOKABLE void stopInstalling();
     Q_INVOKABLE void openNotes(const QString& id);
 
